@@ -10,7 +10,9 @@ namespace {
 FaseVar::Observer g_fase_observer = nullptr;
 }
 
-FaseVar::operator int() const { return static_cast<int>(vb::Val(text_)); }
+FaseVar::operator int() const {
+  return static_cast<int>(vb::Val(text_));
+}
 
 FaseVar& FaseVar::operator=(int value) {
   // A fixed two-character text: a one-digit phase is padded with a blank.
@@ -22,13 +24,15 @@ FaseVar& FaseVar::operator=(int value) {
   return *this;
 }
 
-void FaseVar::Observe(Observer observer) { g_fase_observer = observer; }
+void FaseVar::Observe(Observer observer) {
+  g_fase_observer = observer;
+}
 
 void ResetGameState() {
 #define POKERZEVA_RESET(type, name, start) \
-  {                                         \
-    type fresh = start;                     \
-    name = fresh;                           \
+  {                                        \
+    type fresh = start;                    \
+    name = fresh;                          \
   }
   POKERZEVA_ALL_STATE(POKERZEVA_RESET)
 #undef POKERZEVA_RESET

@@ -8,13 +8,19 @@ std::string g_app_path = ".";
 std::string g_cur_dir = ".";
 }  // namespace
 
-const std::string& AppPath() { return g_app_path; }
+const std::string& AppPath() {
+  return g_app_path;
+}
 void SetAppPath(std::string path) {
   g_app_path = std::move(path);
   g_cur_dir = g_app_path;
 }
-const std::string& CurDir() { return g_cur_dir; }
-void ChDir(std::string path) { g_cur_dir = std::move(path); }
+const std::string& CurDir() {
+  return g_cur_dir;
+}
+void ChDir(std::string path) {
+  g_cur_dir = std::move(path);
+}
 
 std::string ResolvePath(const std::string& path) {
   auto slashes = [](std::string s) {

@@ -11,8 +11,14 @@ void mciExecute(const std::string& command) {
   if (g_sink) g_sink(command);
 }
 
-const std::vector<std::string>& MciSent() { return g_sent; }
-void ClearMciSent() { g_sent.clear(); }
-void InstallMciSink(MciSink sink) { g_sink = std::move(sink); }
+const std::vector<std::string>& MciSent() {
+  return g_sent;
+}
+void ClearMciSent() {
+  g_sent.clear();
+}
+void InstallMciSink(MciSink sink) {
+  g_sink = std::move(sink);
+}
 
 }  // namespace vb

@@ -31,14 +31,20 @@ float Rnd() {
   return static_cast<float>(static_cast<double>(z >> 40) * 0x1p-24);
 }
 
-void Randomize(double seed) { g_state = Mix(g_state ^ std::bit_cast<std::uint64_t>(seed)); }
+void Randomize(double seed) {
+  g_state = Mix(g_state ^ std::bit_cast<std::uint64_t>(seed));
+}
 
 int DrawInt(double n, double a) {
   return static_cast<int>(std::floor(static_cast<double>(Rnd()) * n + a));
 }
 
-std::uint64_t RndState() { return g_state; }
-void SetRndState(std::uint64_t state) { g_state = state; }
+std::uint64_t RndState() {
+  return g_state;
+}
+void SetRndState(std::uint64_t state) {
+  g_state = state;
+}
 
 std::uint64_t StartStateFromEnvironment() {
   if (const char* s = std::getenv("POKERZEVA_SEED")) {
@@ -50,7 +56,11 @@ std::uint64_t StartStateFromEnvironment() {
   return (std::uint64_t{rd()} << 32) ^ rd();
 }
 
-void ScriptRnd(std::deque<float> values) { g_script = std::move(values); }
-std::size_t ScriptedRndLeft() { return g_script.size(); }
+void ScriptRnd(std::deque<float> values) {
+  g_script = std::move(values);
+}
+std::size_t ScriptedRndLeft() {
+  return g_script.size();
+}
 
 }  // namespace vb

@@ -1,4 +1,5 @@
-// The game's random source: Randomize with a number, then Rnd, a uniform float from 0 up to below 1.
+// The game's random source: Randomize with a number, then Rnd, a uniform float from 0 up to
+// below 1.
 //
 // The state is one 64-bit number driven by the splitmix64 step. A reseed mixes the bits of the new
 // value into the whole state, so reseeding twice with the same value goes on instead of

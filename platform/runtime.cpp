@@ -32,12 +32,18 @@ RuntimeError::RuntimeError(int number, const std::string& message)
     : std::runtime_error(message), number_(number) {}
 RuntimeError::RuntimeError(int number) : RuntimeError(number, ErrorMessage(number)) {}
 
-void Raise(int number) { throw RuntimeError(number); }
+void Raise(int number) {
+  throw RuntimeError(number);
+}
 
-double Int(double x) { return std::floor(x); }
+double Int(double x) {
+  return std::floor(x);
+}
 
 namespace {
-double RoundHalfEven(double x) { return std::nearbyint(x); }  // default mode: to nearest, even
+double RoundHalfEven(double x) {
+  return std::nearbyint(x);
+}  // default mode: to nearest, even
 double Checked(double x, double lo, double hi) {
   if (std::isnan(x)) Raise(err::kOverflow);
   const double r = RoundHalfEven(x);
@@ -46,8 +52,12 @@ double Checked(double x, double lo, double hi) {
 }
 }  // namespace
 
-std::uint8_t CByte(double x) { return static_cast<std::uint8_t>(Checked(x, 0, 255)); }
-std::int16_t CInt(double x) { return static_cast<std::int16_t>(Checked(x, -32768, 32767)); }
+std::uint8_t CByte(double x) {
+  return static_cast<std::uint8_t>(Checked(x, 0, 255));
+}
+std::int16_t CInt(double x) {
+  return static_cast<std::int16_t>(Checked(x, -32768, 32767));
+}
 std::int32_t CLng(double x) {
   return static_cast<std::int32_t>(Checked(x, -2147483648.0, 2147483647.0));
 }
@@ -121,7 +131,9 @@ std::string SingleText(float value) {
   return mant + exp;
 }
 
-std::string LongText(std::int64_t value) { return std::to_string(value); }
+std::string LongText(std::int64_t value) {
+  return std::to_string(value);
+}
 
 std::int16_t Integer::Check(std::int64_t v) {
   if (v < std::numeric_limits<std::int16_t>::min() || v > std::numeric_limits<std::int16_t>::max())

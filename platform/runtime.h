@@ -22,12 +22,12 @@ class RuntimeError : public std::runtime_error {
 
 // Error numbers the game can meet.
 namespace err {
-inline constexpr int kInvalidCall = 5;         // "Chamada de procedimento ou argumento inválido"
-inline constexpr int kOverflow = 6;            // "Estouro"
-inline constexpr int kSubscript = 9;           // "Subscrito fora do intervalo"
-inline constexpr int kArrayElement = 340;      // "O elemento da matriz de controle não existe"
-inline constexpr int kObjectRequired = 424;    // "Objeto necessário"
-inline constexpr int kElementNotFound = 35601; // "Elemento não encontrado"
+inline constexpr int kInvalidCall = 5;           // "Chamada de procedimento ou argumento inválido"
+inline constexpr int kOverflow = 6;              // "Estouro"
+inline constexpr int kSubscript = 9;             // "Subscrito fora do intervalo"
+inline constexpr int kArrayElement = 340;        // "O elemento da matriz de controle não existe"
+inline constexpr int kObjectRequired = 424;      // "Objeto necessário"
+inline constexpr int kElementNotFound = 35601;   // "Elemento não encontrado"
 inline constexpr int kIndexOutOfBounds = 35600;  // "Índice fora dos limites"
 }  // namespace err
 
@@ -68,9 +68,6 @@ class Integer {
   Integer& operator-=(std::int64_t d) { return *this = std::int64_t{v_} - d; }
   Integer& operator++() { return *this += 1; }
   Integer& operator--() { return *this -= 1; }
-  // Integer with Integer stays 16 bits, as the runtime computes it.
-  friend Integer operator+(Integer a, Integer b) { return Integer(std::int64_t{a.v_} + b.v_); }
-  friend Integer operator-(Integer a, Integer b) { return Integer(std::int64_t{a.v_} - b.v_); }
 
  private:
   static std::int16_t Check(std::int64_t v);

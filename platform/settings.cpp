@@ -18,7 +18,9 @@ MemorySettings g_memory;
 SettingsStore* g_store = &g_memory;
 }  // namespace
 
-SettingsStore& Settings() { return *g_store; }
+SettingsStore& Settings() {
+  return *g_store;
+}
 void InstallSettings(SettingsStore* store) {
   if (store) {
     g_store = store;

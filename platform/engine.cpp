@@ -1,0 +1,260 @@
+#include "platform/engine.h"
+
+#include <algorithm>
+#include <exception>
+#include <stdexcept>
+
+#include "platform/runtime.h"
+
+namespace vb {
+
+std::string Input::Describe() const {
+  static const char* names[] = {"click", "key", "mousedown", "button", "menu", "type", "close"};
+  std::string s = names[static_cast<int>(type)];
+  s += " " + (control.empty() ? (form ? form->Name() : std::string("?")) : control);
+  if (index >= 0) s += "(" + std::to_string(index) + ")";
+  if (type == Type::ButtonClick || type == Type::MouseDown) s += " #" + std::to_string(button);
+  if (type == Type::Key) s += " key " + std::to_string(key_code);
+  return s;
+}
+
+Engine& Engine::Get() {
+  static Engine engine;
+  return engine;
+}
+
+void Engine::Register(Form& form) {
+  if (std::find(forms_.begin(), forms_.end(), &form) == forms_.end()) forms_.push_back(&form);
+}
+
+void Engine::Forget(Form& form) {
+  forms_.erase(std::remove(forms_.begin(), forms_.end(), &form), forms_.end());
+  modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
+}
+
+Form* Engine::MainForm() const {
+  for (Form* f : forms_)
+    if (f->is_main) return f;
+  return nullptr;
+}
+
+void Engine::AddListener(Listener* listener) {
+  listeners_.push_back(listener);
+}
+void Engine::RemoveListener(Listener* listener) {
+  listeners_.erase(std::remove(listeners_.begin(), listeners_.end(), listener), listeners_.end());
+}
+
+void Engine::Changed(Control& control, Prop prop, int sub) {
+  for (std::size_t i = 0; i < listeners_.size(); ++i) listeners_[i]->Changed(control, prop, sub);
+}
+
+void Engine::Reset() {
+  for (Form* f : forms_) {
+    f->loaded_ = false;
+    f->active_ = nullptr;
+  }
+  forms_.clear();
+  listeners_.clear();
+  modal_.clear();
+  hung_ = false;
+}
+
+// --- forms -----------------------------------------------------------------------------------
+
+void Engine::Show(Form& form, bool modal) {
+  Register(form);
+  if (!form.loaded_) {
+    form.loaded_ = true;
+    // Timers enabled at design start counting when their form loads.
+    for (const auto& c : form.controls())
+      if (c->kind() == Kind::Timer && c->Enabled) TimerChanged(*c, Prop::Enabled);
+    Changed(form, Prop::Loaded, 1);
+    if (form.Load) form.Load();
+    if (!form.loaded_) return;  // it unloaded itself while loading
+  }
+  form.modal = modal;
+  form.Visible = true;
+  if (!modal) return;
+  modal_.push_back(&form);
+  while (form.loaded_) DoEvents();
+  modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
+}
+
+void Engine::Unload(Form& form) {
+  if (!form.loaded_) return;
+  int cancel = 0;
+  if (form.Unload) form.Unload(cancel);
+  form.loaded_ = false;
+  for (const auto& c : form.controls())
+    if (c->kind() == Kind::Timer) c->timer_due = -1;
+  if (host_) host_->TimersChanged();
+  form.active_ = nullptr;
+  form.Visible = false;
+  Changed(form, Prop::Loaded, 0);
+  if (form.is_main) host_->EndProgram(0, EndHow::Unloaded);
+}
+
+void Engine::End() {
+  host_->EndProgram(0, EndHow::End);
+  std::terminate();  // a host never comes back from ending the program
+}
+
+void Engine::Hang() {
+  hung_ = true;
+  for (Form* f : forms_)
+    for (const auto& c : f->controls())
+      if (c->kind() == Kind::Timer) c->timer_due = -1;
+  if (Form* main = MainForm()) main->Caption = main->Caption.get() + kNotResponding;
+  host_->Hang();
+  std::terminate();
+}
+
+void Engine::PopupMenu(Control& menu) {
+  if (host_) host_->PopupMenu(menu);
+}
+
+// --- timers ----------------------------------------------------------------------------------
+
+void Engine::TimerChanged(Control& timer, Prop prop) {
+  if (!timer.form().Loaded() || hung_) {
+    timer.timer_due = -1;
+  } else if (!timer.Enabled || timer.Interval <= 0) {
+    timer.timer_due = -1;
+  } else if (prop == Prop::Interval || timer.timer_due < 0) {
+    // Setting the interval restarts the count; enabling a running timer does not.
+    timer.timer_due = Now() + timer.Interval;
+  }
+  if (host_) host_->TimersChanged();
+}
+
+std::int64_t Engine::NextTimerDue() const {
+  std::int64_t next = -1;
+  for (Form* f : forms_)
+    for (const auto& c : f->controls())
+      if (c->kind() == Kind::Timer && c->timer_due >= 0 && (next < 0 || c->timer_due < next))
+        next = c->timer_due;
+  return next;
+}
+
+bool Engine::FireDueTimers() {
+  if (hung_) return false;
+  const std::int64_t now = Now();
+  std::vector<Control*> due;
+  for (Form* f : forms_)
+    for (const auto& c : f->controls())
+      if (c->kind() == Kind::Timer && c->timer_due >= 0 && c->timer_due <= now)
+        due.push_back(c.get());
+  std::stable_sort(due.begin(), due.end(), [](Control* a, Control* b) {
+    return a->timer_due != b->timer_due ? a->timer_due < b->timer_due
+                                        : a->timer_order < b->timer_order;
+  });
+  bool fired = false;
+  for (Control* t : due) {
+    // An earlier tick may have stopped or restarted this one.
+    if (t->timer_due < 0 || t->timer_due > now) continue;
+    t->timer_due = now + t->Interval;
+    if (t->timer_busy) continue;  // a tick never runs inside its own handler
+    fired = true;
+    t->timer_busy = true;
+    struct Done {
+      Control* t;
+      ~Done() { t->timer_busy = false; }
+    } done{t};
+    if (t->TimerEvent) t->TimerEvent();
+  }
+  return fired;
+}
+
+// --- input -----------------------------------------------------------------------------------
+
+Control* Engine::Target(const Input& input) const {
+  if (!input.form) return nullptr;
+  if (input.control.empty()) return input.form;
+  Control* c = input.form->Find(input.control, input.index);
+  if (input.type == Input::Type::Key && input.control.empty()) return input.form->ActiveControl();
+  return c;
+}
+
+bool Engine::Accepts(const Input& input) const {
+  if (hung_) return input.type == Input::Type::Close && input.form && input.form->is_main;
+  if (!input.form || !input.form->Loaded()) return false;
+  if (input.type == Input::Type::Close) return true;
+  // A modal form takes all input while it is up.
+  if (Form* top = TopModal(); top && top != input.form) return false;
+  if (!input.form->Visible) return false;
+  Control* c = input.type == Input::Type::Key && input.control.empty() ? input.form->ActiveControl()
+                                                                       : Target(input);
+  if (!c) return false;
+  if (input.type == Input::Type::Menu) {
+    for (Control* m = c; m; m = m->parent())
+      if (!m->Visible || !m->Enabled) return false;
+    return true;
+  }
+  if (!c->EffectivelyVisible() || !c->EffectivelyEnabled()) return false;
+  if (input.type == Input::Type::ButtonClick) {
+    if (input.button < 1 || input.button > static_cast<int>(c->Buttons().size())) return false;
+    return c->Button(input.button).Enabled();
+  }
+  return true;
+}
+
+bool Engine::Deliver(const Input& input) {
+  if (!Accepts(input)) return false;
+  if (input.type == Input::Type::Close) {
+    if (hung_) host_->EndProgram(0, EndHow::HungClose);
+    Form* main = MainForm();
+    if (input.form->is_main || input.form->close_ends_game) {
+      if (main) Unload(*main);
+      host_->EndProgram(0, EndHow::Unloaded);
+    }
+    Unload(*input.form);
+    return true;
+  }
+  Control* c = input.type == Input::Type::Key && input.control.empty() ? input.form->ActiveControl()
+                                                                       : Target(input);
+  switch (input.type) {
+    case Input::Type::Click:
+      // A click takes the focus first; the click runs even if a LostFocus handler moved it on.
+      if (c->CanTakeFocus()) input.form->FocusTo(c);
+      if (c->Click) c->Click();
+      break;
+    case Input::Type::Key: {
+      if (input.key_code == 9) {
+        input.form->SendKeys(input.shift ? "+{TAB}" : "{TAB}");
+        break;
+      }
+      if (c->KeyDown) c->KeyDown(input.key_code, input.shift);
+      int ascii = input.key_code == 13 || input.key_code == 32 ? input.key_code : 0;
+      if (ascii && c->kind() == Kind::CommandButton) {
+        if (c->Click) c->Click();
+      } else if (ascii && c->KeyPress) {
+        c->KeyPress(ascii);
+      }
+      break;
+    }
+    case Input::Type::MouseDown:
+      if (c->MouseDown) c->MouseDown(input.button, input.shift);
+      break;
+    case Input::Type::ButtonClick:
+      if (c->ButtonClick) c->ButtonClick(c->Button(input.button));
+      break;
+    case Input::Type::Menu:
+      if (c->Click) c->Click();
+      break;
+    case Input::Type::Type:
+      c->Text = input.text;
+      break;
+    case Input::Type::Close:
+      break;
+  }
+  return true;
+}
+
+void DoEvents() {
+  Engine& e = Engine::Get();
+  if (!e.has_host()) throw std::logic_error("DoEvents with no event loop");
+  e.host().ServeEvents();
+}
+
+}  // namespace vb

@@ -1,0 +1,120 @@
+// The event loop of the form engine. The game has no main loop: handlers run on one thread, and
+// a running handler hands control back to the queue with DoEvents() while it waits, so that
+// input and timers are served inside it, as nested handlers.
+//
+// One interface, two hosts: the virtual clock for tests and the replay tool (platform/), and the
+// desktop's Qt loop (app/). Timers behave the same in both, since the engine keeps them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/forms.h"
+
+namespace vb {
+
+enum class EndHow {
+  Unloaded,  // the main form unloaded: its unload event ran
+  End,       // the runtime's End: at once, no unload event
+  HungClose  // the window of a hung program was closed
+};
+
+// Thrown through the game when the program ends inside a handler (headless hosts only; the
+// desktop process simply exits).
+struct ProgramEnded {
+  int status;
+  EndHow how;
+};
+
+// The program stopped responding: thrown by the headless host where the desktop shows the hung
+// window until it is closed.
+struct ProgramHung {};
+
+// One action of the player.
+struct Input {
+  enum class Type { Click, Key, MouseDown, ButtonClick, Menu, Type, Close };
+  Type type = Type::Click;
+  Form* form = nullptr;
+  std::string control;  // name of the control (empty: the form itself)
+  int index = -1;       // index in its control array
+  int button = 0;       // toolbar button number, or mouse button (2 = right)
+  int key_code = 0;     // for Key: the key code (13 Enter, 32 Space, 37..40 arrows, 9 Tab)
+  int shift = 0;
+  std::string text;  // for Type
+  std::string Describe() const;
+};
+
+class Host {
+ public:
+  virtual ~Host() = default;
+  virtual std::int64_t Now() const = 0;
+  // Serves what is pending (input, due timers) once; when nothing is, waits for the next thing
+  // and serves it. It never spins.
+  virtual void ServeEvents() = 0;
+  virtual void TimersChanged() {}
+  [[noreturn]] virtual void EndProgram(int status, EndHow how) = 0;
+  // The program no longer responds; returns never.
+  [[noreturn]] virtual void Hang() = 0;
+  virtual void PopupMenu(Control& menu) { (void)menu; }
+};
+
+class Engine {
+ public:
+  static Engine& Get();
+
+  void SetHost(Host* host) { host_ = host; }
+  Host& host() const { return *host_; }
+  bool has_host() const { return host_ != nullptr; }
+  std::int64_t Now() const { return host_ ? host_->Now() : 0; }
+
+  // Forms that exist, the main one first.
+  void Register(Form& form);
+  void Forget(Form& form);
+  const std::vector<Form*>& forms() const { return forms_; }
+  Form* MainForm() const;
+
+  void AddListener(Listener* listener);
+  void RemoveListener(Listener* listener);
+  void Changed(Control& control, Prop prop, int sub);
+
+  // Forms: show (a modal show returns when the form has unloaded), unload, and the two ends.
+  void Show(Form& form, bool modal = false);
+  void Unload(Form& form);
+  [[noreturn]] void End();
+  [[noreturn]] void Hang();
+  bool hung() const { return hung_; }
+  Form* TopModal() const { return modal_.empty() ? nullptr : modal_.back(); }
+
+  // Timers.
+  void TimerChanged(Control& timer, Prop prop);
+  std::int64_t NextTimerDue() const;  // -1: none
+  bool FireDueTimers();               // fires every timer due by now; whether any fired
+
+  // The player's input: runs the handler at once (nested, when a handler is waiting). Returns
+  // false when the screen would refuse it (control hidden, disabled, missing, behind a modal
+  // form, or the program hung).
+  bool Deliver(const Input& input);
+  bool Accepts(const Input& input) const;
+
+  void PopupMenu(Control& menu);
+
+  // Every form and listener forgotten, timers stopped: a fresh process for the next test.
+  void Reset();
+
+ private:
+  Control* Target(const Input& input) const;
+  Host* host_ = nullptr;
+  std::vector<Form*> forms_;
+  std::vector<Listener*> listeners_;
+  std::vector<Form*> modal_;
+  bool hung_ = false;
+};
+
+// The runtime's DoEvents: hand control to the event queue once.
+void DoEvents();
+
+// The hung window's title gains this.
+inline constexpr const char* kNotResponding = " (Não está respondendo)";
+
+}  // namespace vb

@@ -1,0 +1,254 @@
+#include "platform/forms.h"
+
+#include <algorithm>
+
+#include "platform/engine.h"
+#include "platform/runtime.h"
+
+namespace vb {
+
+template <class T>
+Property<T>& Property<T>::operator=(const T& v) {
+  v_ = v;
+  owner_->Notify(prop_);
+  return *this;
+}
+template class Property<std::string>;
+template class Property<bool>;
+template class Property<int>;
+
+// --- toolbar buttons -------------------------------------------------------------------------
+
+ToolbarButton::ToolbarButton(Control* toolbar, int index, std::string key)
+    : toolbar_(toolbar), index_(index), key_(std::move(key)) {}
+
+void ToolbarButton::SetImage(const std::string& key) {
+  if (key == "0" || key.empty()) {
+    image_.clear();
+  } else {
+    // A key that the attached store does not hold names no image.
+    if (toolbar_->images && !toolbar_->images->HasKey(key)) Raise(err::kElementNotFound);
+    image_ = key;
+  }
+  toolbar_->Notify(Prop::ButtonImage, index_);
+}
+
+void ToolbarButton::SetImage(int zero) {
+  if (zero != 0) Raise(err::kElementNotFound);
+  SetImage(std::string());
+}
+
+void ToolbarButton::SetEnabled(bool on) {
+  enabled_ = on;
+  toolbar_->Notify(Prop::ButtonEnabled, index_);
+}
+void ToolbarButton::SetValue(int value) {
+  value_ = value;
+  toolbar_->Notify(Prop::ButtonValue, index_);
+}
+void ToolbarButton::SetTag(const std::string& tag) {
+  tag_ = tag;
+  toolbar_->Notify(Prop::ButtonTag, index_);
+}
+
+// --- controls --------------------------------------------------------------------------------
+
+Control::Control(Form* form, Control* parent, Kind kind, std::string name, int index)
+    : form_(form), parent_(parent), kind_(kind), name_(std::move(name)), index_(index) {}
+
+std::string Control::Id() const {
+  return index_ < 0 ? name_ : name_ + "(" + std::to_string(index_) + ")";
+}
+
+void Control::Move(int left, int top, int width, int height) {
+  Left = left;
+  Top = top;
+  Width = width;
+  Height = height;
+  Notify(Prop::Geometry);
+}
+void Control::SetLeft(int left) {
+  Left = left;
+  Notify(Prop::Geometry);
+}
+void Control::SetTop(int top) {
+  Top = top;
+  Notify(Prop::Geometry);
+}
+
+bool Control::EffectivelyVisible() const {
+  for (const Control* c = this; c; c = c->parent_)
+    if (!c->Visible) return false;
+  return form_->Visible;
+}
+
+bool Control::EffectivelyEnabled() const {
+  for (const Control* c = this; c; c = c->parent_)
+    if (!c->Enabled) return false;
+  return form_->Enabled;
+}
+
+bool Control::CanTakeFocus() const {
+  return TabIndex >= 0 && EffectivelyVisible() && EffectivelyEnabled() && form_->Loaded();
+}
+
+void Control::SetFocus() {
+  // The runtime refuses the focus to a control that cannot take it.
+  if (!CanTakeFocus()) Raise(err::kInvalidCall);
+  form_->FocusTo(this);
+}
+
+ToolbarButton& Control::Button(int index) {
+  if (index < 1 || index > static_cast<int>(buttons_.size())) Raise(err::kIndexOutOfBounds);
+  return *buttons_[index - 1];
+}
+
+ToolbarButton& Control::Button(const std::string& key) {
+  for (auto& b : buttons_)
+    if (b->Key() == key) return *b;
+  Raise(err::kElementNotFound);
+}
+
+ToolbarButton& Control::AddButton(const std::string& key) {
+  buttons_.push_back(
+      std::make_unique<ToolbarButton>(this, static_cast<int>(buttons_.size()) + 1, key));
+  return *buttons_.back();
+}
+
+void Control::Notify(Prop prop, int sub) {
+  if (kind_ == Kind::Timer && (prop == Prop::Enabled || prop == Prop::Interval)) {
+    Engine::Get().TimerChanged(*this, prop);
+  }
+  if ((prop == Prop::Visible || prop == Prop::Enabled) && form_->active_ &&
+      !form_->active_->CanTakeFocus()) {
+    form_->FocusLost();
+  }
+  Engine::Get().Changed(*this, prop, sub);
+}
+
+// --- image stores ----------------------------------------------------------------------------
+
+ImageList::ImageList(Form* form, std::string name)
+    : Control(form, nullptr, Kind::ImageList, std::move(name), -1) {}
+
+const StoredImage& ImageList::Item(int position) const {
+  if (position < 1 || position > Count()) Raise(err::kIndexOutOfBounds);
+  return images_[position - 1];
+}
+
+const StoredImage& ImageList::Item(const std::string& key) const {
+  for (const auto& i : images_)
+    if (i.key == key && !key.empty()) return i;
+  Raise(err::kElementNotFound);
+}
+
+bool ImageList::HasKey(const std::string& key) const {
+  return std::any_of(images_.begin(), images_.end(),
+                     [&](const StoredImage& i) { return !key.empty() && i.key == key; });
+}
+
+void ImageList::Add(const std::string& picture, const std::string& key, const std::string& tag) {
+  images_.push_back({key, tag, picture});
+  Notify(Prop::Images);
+}
+
+void ImageList::Remove(int position) {
+  Item(position);  // faults when missing
+  images_.erase(images_.begin() + (position - 1));
+  Notify(Prop::Images);
+}
+
+template <class T>
+T& ControlArray<T>::operator()(int index) const {
+  auto it = items_.find(index);
+  if (it == items_.end()) Raise(err::kArrayElement);
+  return *it->second;
+}
+template class ControlArray<Control>;
+
+// --- forms -----------------------------------------------------------------------------------
+
+Form::Form(std::string name) : Control(this, nullptr, Kind::Form, std::move(name), -1) {
+  Visible = false;
+}
+
+Form::~Form() {
+  Engine::Get().Forget(*this);
+}
+
+Control& Form::Add(Kind kind, const std::string& name, Control* parent, int index) {
+  controls_.push_back(std::make_unique<Control>(this, parent, kind, name, index));
+  Control& c = *controls_.back();
+  if (parent) parent->children_.push_back(&c);
+  if (kind == Kind::Timer) c.Enabled = false;
+  return c;
+}
+
+ImageList& Form::AddImageList(const std::string& name) {
+  auto list = std::make_unique<ImageList>(this, name);
+  ImageList& ref = *list;
+  controls_.push_back(std::move(list));
+  return ref;
+}
+
+Control* Form::Find(const std::string& name, int index) const {
+  for (const auto& c : controls_)
+    if (c->Name() == name && c->Index() == index) return c.get();
+  return nullptr;
+}
+
+std::vector<Control*> Form::TabOrder() const {
+  std::vector<Control*> order;
+  for (const auto& c : controls_)
+    if (c->TabIndex >= 0) order.push_back(c.get());
+  std::stable_sort(order.begin(), order.end(),
+                   [](Control* a, Control* b) { return a->TabIndex < b->TabIndex; });
+  return order;
+}
+
+void Form::FocusTo(Control* target) {
+  if (target == active_) return;
+  Control* old = active_;
+  active_ = target;
+  if (old && old->LostFocus) old->LostFocus();
+  // A LostFocus handler may have moved the focus on already.
+  if (active_ == target && target) {
+    Engine::Get().Changed(*target, Prop::Focus, 0);
+    if (target->GotFocus) target->GotFocus();
+  }
+}
+
+void Form::FocusLost() {
+  // The next control in tab order that can take the focus, else none.
+  const auto order = TabOrder();
+  Control* next = nullptr;
+  auto at = std::find(order.begin(), order.end(), active_);
+  for (std::size_t step = 1; step <= order.size() && at != order.end(); ++step) {
+    Control* c = order[(static_cast<std::size_t>(at - order.begin()) + step) % order.size()];
+    if (c != active_ && c->CanTakeFocus()) {
+      next = c;
+      break;
+    }
+  }
+  FocusTo(next);
+}
+
+void Form::SendKeys(const std::string& keys) {
+  const bool back = keys == "+{TAB}";
+  if (!back && keys != "{TAB}") return;
+  const auto order = TabOrder();
+  if (order.empty()) return;
+  auto at = std::find(order.begin(), order.end(), active_);
+  const std::size_t n = order.size();
+  std::size_t pos =
+      at == order.end() ? (back ? 0 : n - 1) : static_cast<std::size_t>(at - order.begin());
+  for (std::size_t step = 1; step <= n; ++step) {
+    Control* c = order[back ? (pos + n * 2 - step) % n : (pos + step) % n];
+    if (c->CanTakeFocus()) {
+      FocusTo(c);
+      return;
+    }
+  }
+}
+
+}  // namespace vb

@@ -1,0 +1,274 @@
+// The form engine, as a model: forms and their controls with the properties and events the game
+// uses, keyed image stores, toolbars, timers, focus and the tab order. The game's handlers are
+// plain functions hooked to the events. A front (the desktop widgets, or the headless replay)
+// watches every change through a Listener and feeds the player's input back with Deliver().
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vb {
+
+class Control;
+class Form;
+class ImageList;
+
+enum class Kind {
+  Form,
+  Frame,
+  Label,
+  CommandButton,
+  TextBox,
+  PictureBox,
+  Shape,
+  Line,
+  Timer,
+  Menu,
+  Toolbar,
+  ImageList,
+};
+
+// What changed, for listeners. `sub` is the button number for the toolbar's button properties.
+enum class Prop {
+  Caption,
+  Visible,
+  Enabled,
+  Geometry,
+  Picture,
+  Tag,
+  Text,
+  Checked,
+  Value,
+  Interval,
+  Focus,
+  ButtonImage,
+  ButtonEnabled,
+  ButtonValue,
+  ButtonTag,
+  Images,  // an image store's contents changed
+  Loaded,  // a form was loaded or unloaded
+};
+
+class Listener {
+ public:
+  virtual ~Listener() = default;
+  virtual void Changed(Control& control, Prop prop, int sub) = 0;
+};
+
+// A property of a control: reads like the value, and a write tells the control what changed.
+template <class T>
+class Property {
+ public:
+  Property(Control* owner, Prop prop, T value = T{}) : owner_(owner), prop_(prop), v_(value) {}
+  Property(const Property&) = delete;
+  operator const T&() const { return v_; }  // NOLINT: a property reads as its value
+  const T& get() const { return v_; }
+  Property& operator=(const T& v);
+  Property& operator=(const Property& other) { return *this = other.v_; }
+  template <class U>
+  bool operator==(const U& u) const {
+    return v_ == u;
+  }
+
+ private:
+  Control* owner_;
+  Prop prop_;
+  T v_;
+};
+
+// A button of a toolbar. Its image value is a key of the toolbar's image store, or the number 0
+// for no picture: held as text, "" standing for the number 0 (reading gives "0" back then).
+class ToolbarButton {
+ public:
+  ToolbarButton(Control* toolbar, int index, std::string key);
+  int Index() const { return index_; }
+  const std::string& Key() const { return key_; }
+
+  // The image value: a key, or "0" for none.
+  std::string Image() const { return image_.empty() ? "0" : image_; }
+  const std::string& ImageKey() const { return image_; }  // "" for none
+  void SetImage(const std::string& key);                  // a key of the store, or "0"
+  void SetImage(int zero);                                // only 0: no picture
+
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool on);
+  int Value() const { return value_; }
+  void SetValue(int value);
+  const std::string& Tag() const { return tag_; }
+  void SetTag(const std::string& tag);
+
+ private:
+  Control* toolbar_;
+  int index_;
+  std::string key_;
+  std::string image_;
+  bool enabled_ = true;
+  int value_ = 0;
+  std::string tag_;
+};
+
+struct Font {
+  std::string name = "MS Sans Serif";
+  double size = 8.25;
+  bool bold = false;
+};
+
+class Control {
+ public:
+  Control(Form* form, Control* parent, Kind kind, std::string name, int index);
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  Form& form() const { return *form_; }
+  Control* parent() const { return parent_; }
+  Kind kind() const { return kind_; }
+  const std::string& Name() const { return name_; }
+  int Index() const { return index_; }  // -1 outside a control array
+  std::string Id() const;               // "Name" or "Name(3)"
+  const std::vector<Control*>& children() const { return children_; }
+
+  Property<std::string> Caption{this, Prop::Caption};
+  Property<bool> Visible{this, Prop::Visible, true};
+  Property<bool> Enabled{this, Prop::Enabled, true};
+  Property<std::string> Tag{this, Prop::Tag};
+  Property<std::string> Picture{this, Prop::Picture};  // an image id, "" for none
+  Property<std::string> Text{this, Prop::Text};
+  Property<bool> Checked{this, Prop::Checked};
+  Property<int> Interval{this, Prop::Interval};
+  int Left = 0, Top = 0, Width = 0, Height = 0;  // twips
+  void Move(int left, int top, int width, int height);
+  void SetLeft(int left);
+  void SetTop(int top);
+
+  std::uint32_t BackColor = 0xFFFFFF;  // 0xRRGGBB
+  std::uint32_t ForeColor = 0x000000;
+  bool HasBackColor = false;
+  Font font;
+  int TabIndex = -1;  // a tab stop when >= 0
+  int BorderWidth = 1;
+
+  // The form engine's reach from a control.
+  void SetFocus();
+  bool EffectivelyVisible() const;
+  bool EffectivelyEnabled() const;
+  bool CanTakeFocus() const;
+
+  // Events. A handler left empty means the event does nothing.
+  std::function<void()> Click;
+  std::function<void(int& key_ascii)> KeyPress;
+  std::function<void(int key_code, int shift)> KeyDown;
+  std::function<void()> GotFocus;
+  std::function<void()> LostFocus;
+  std::function<void(int button, int shift)> MouseDown;
+  std::function<void()> TimerEvent;                        // a timer's tick
+  std::function<void(ToolbarButton& button)> ButtonClick;  // a toolbar button
+
+  // Toolbars: buttons numbered from 1, and the image store they draw from.
+  std::vector<std::unique_ptr<ToolbarButton>>& Buttons() { return buttons_; }
+  ToolbarButton& Button(int index);
+  ToolbarButton& Button(const std::string& key);
+  ToolbarButton& AddButton(const std::string& key = "");
+  ImageList* images = nullptr;
+
+  // Timers: the order among ticks due at the same moment, and when the next one is due.
+  int timer_order = 0;
+  std::int64_t timer_due = -1;  // -1: not running
+  bool timer_busy = false;
+
+  void Notify(Prop prop, int sub = 0);
+
+ protected:
+  friend class Form;
+  Form* form_;
+  Control* parent_;
+  Kind kind_;
+  std::string name_;
+  int index_;
+  std::vector<Control*> children_;
+  std::vector<std::unique_ptr<ToolbarButton>> buttons_;
+};
+
+// An image in a store: its key, its tag, and the picture it shows (an id the front resolves to
+// an asset; tests only compare ids).
+struct StoredImage {
+  std::string key;
+  std::string tag;
+  std::string picture;
+};
+
+// A keyed image store. Positions count from 1.
+class ImageList : public Control {
+ public:
+  ImageList(Form* form, std::string name);
+  int Count() const { return static_cast<int>(images_.size()); }
+  const StoredImage& Item(int position) const;            // missing position: run-time error
+  const StoredImage& Item(const std::string& key) const;  // missing key: run-time error 35601
+  bool HasKey(const std::string& key) const;
+  std::string PictureOf(int position) const { return Item(position).picture; }
+  std::string PictureOf(const std::string& key) const { return Item(key).picture; }
+  void Add(const std::string& picture, const std::string& key = "", const std::string& tag = "");
+  void Remove(int position);
+  const std::vector<StoredImage>& images() const { return images_; }
+
+ private:
+  std::vector<StoredImage> images_;
+};
+
+// Elements of a control array by their Index; a missing one is run-time error 340.
+template <class T = Control>
+class ControlArray {
+ public:
+  T& operator()(int index) const;
+  int Count() const { return static_cast<int>(items_.size()); }
+  int UBound() const { return items_.empty() ? -1 : items_.rbegin()->first; }
+  void Set(int index, T* control) { items_[index] = control; }
+  const std::map<int, T*>& items() const { return items_; }
+
+ private:
+  std::map<int, T*> items_;
+};
+
+class Form : public Control {
+ public:
+  explicit Form(std::string name);
+  ~Form() override;
+
+  // Controls are created inside the form and live as long as it does.
+  Control& Add(Kind kind, const std::string& name, Control* parent = nullptr, int index = -1);
+  ImageList& AddImageList(const std::string& name);
+  Control* Find(const std::string& name, int index = -1) const;
+  const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
+
+  std::function<void()> Load;
+  std::function<void(int& cancel)> Unload;
+
+  bool Loaded() const { return loaded_; }
+  bool modal = false;
+  // The close box of this window ends the game (the only window on screen during the first
+  // shuffle: a player who closes it means to quit).
+  bool close_ends_game = false;
+  bool is_main = false;
+
+  Control* ActiveControl() const { return active_; }
+  // Moves the focus, firing LostFocus and GotFocus. The target must be able to take it.
+  void FocusTo(Control* target);
+  // The keystrokes "{TAB}" and "+{TAB}".
+  void SendKeys(const std::string& keys);
+  // The focused control was disabled or hidden: the focus moves on by itself.
+  void FocusLost();
+  std::vector<Control*> TabOrder() const;
+
+ private:
+  friend class Engine;
+  friend class Control;
+  std::vector<std::unique_ptr<Control>> controls_;
+  Control* active_ = nullptr;
+  bool loaded_ = false;
+};
+
+}  // namespace vb

@@ -1,0 +1,264 @@
+// The form engine model on the virtual clock: focus, arrays, image stores, timers, nested
+// handlers, modal forms and the ways a program ends.
+#include "platform/forms.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/engine.h"
+#include "platform/runtime.h"
+#include "platform/virtual_host.h"
+
+namespace {
+
+class FormsTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    vb::Engine::Get().Reset();
+    host = std::make_unique<vb::VirtualHost>();
+    main = std::make_unique<vb::Form>("Main");
+    main->is_main = true;
+    main->Caption = "Jogo";
+    vb::Engine::Get().Register(*main);
+    for (int i = 0; i < 3; ++i) {
+      vb::Control& p = main->Add(vb::Kind::PictureBox, "Pic", nullptr, i);
+      p.TabIndex = i;
+      pics.Set(i, &p);
+      p.GotFocus = [this, i] { log.push_back("got" + std::to_string(i)); };
+      p.LostFocus = [this, i] { log.push_back("lost" + std::to_string(i)); };
+    }
+    button = &main->Add(vb::Kind::CommandButton, "CmdOk");
+    button->TabIndex = 10;
+    timer = &main->Add(vb::Kind::Timer, "Tick");
+    vb::Engine::Get().Show(*main);
+  }
+  void TearDown() override {
+    vb::Engine::Get().Reset();
+    host.reset();
+  }
+
+  vb::Input Click(const std::string& name, int index = -1) {
+    vb::Input in;
+    in.type = vb::Input::Type::Click;
+    in.form = main.get();
+    in.control = name;
+    in.index = index;
+    return in;
+  }
+
+  std::unique_ptr<vb::VirtualHost> host;
+  std::unique_ptr<vb::Form> main;
+  vb::ControlArray<> pics;
+  vb::Control* button = nullptr;
+  vb::Control* timer = nullptr;
+  std::vector<std::string> log;
+};
+
+TEST_F(FormsTest, TabOrderAndFocusEvents) {
+  pics(0).SetFocus();
+  main->SendKeys("{TAB}");
+  main->SendKeys("{TAB}");
+  main->SendKeys("+{TAB}");
+  EXPECT_EQ(main->ActiveControl(), &pics(1));
+  EXPECT_EQ(log,
+            (std::vector<std::string>{"got0", "lost0", "got1", "lost1", "got2", "lost2", "got1"}));
+}
+
+TEST_F(FormsTest, DisablingTheFocusedControlMovesTheFocusOnAndStillFiresLostFocus) {
+  pics(1).SetFocus();
+  log.clear();
+  pics(1).Enabled = false;
+  EXPECT_EQ(main->ActiveControl(), &pics(2));
+  EXPECT_EQ(log, (std::vector<std::string>{"lost1", "got2"}));
+  // The tab order skips what cannot take the focus.
+  pics(2).Visible = false;
+  EXPECT_EQ(main->ActiveControl(), button);
+  main->SendKeys("{TAB}");
+  EXPECT_EQ(main->ActiveControl(), &pics(0));
+  EXPECT_THROW(pics(1).SetFocus(), vb::RuntimeError);
+}
+
+TEST_F(FormsTest, MissingElementsAndKeysFault) {
+  try {
+    pics(3);
+    FAIL();
+  } catch (const vb::RuntimeError& e) {
+    EXPECT_EQ(e.number(), 340);
+  }
+  vb::ImageList& store = main->AddImageList("Store");
+  store.Add("cards/AC", "AC", "1");
+  try {
+    store.Item("ZZ");
+    FAIL();
+  } catch (const vb::RuntimeError& e) {
+    EXPECT_EQ(e.number(), 35601);
+    EXPECT_STREQ(e.what(), "Elemento não encontrado");
+  }
+  EXPECT_THROW(store.Item(2), vb::RuntimeError);
+  vb::Control& bar = main->Add(vb::Kind::Toolbar, "Bar");
+  bar.images = &store;
+  bar.AddButton("B1");
+  EXPECT_THROW(bar.Button(1).SetImage("F01_45"), vb::RuntimeError);
+  EXPECT_THROW(bar.Button(2), vb::RuntimeError);
+  EXPECT_THROW(bar.Button("B9"), vb::RuntimeError);
+}
+
+TEST_F(FormsTest, ToolbarImageZeroAndPictureCopies) {
+  vb::ImageList& store = main->AddImageList("Store");
+  store.Add("backs/1", "FRENTE");
+  vb::Control& bar = main->Add(vb::Kind::Toolbar, "Bar");
+  bar.images = &store;
+  bar.AddButton();
+  bar.Button(1).SetImage("FRENTE");
+  EXPECT_EQ(bar.Button(1).Image(), "FRENTE");
+  bar.Button(1).SetImage(0);
+  EXPECT_EQ(bar.Button(1).Image(), "0");
+  // A picture keeps the image it was given when the store changes later.
+  pics(0).Picture = store.PictureOf("FRENTE");
+  store.Remove(1);
+  store.Add("backs/7", "FRENTE");
+  EXPECT_EQ(pics(0).Picture.get(), "backs/1");
+  EXPECT_EQ(store.PictureOf("FRENTE"), "backs/7");
+}
+
+TEST_F(FormsTest, AQueuedClickRunsInsideAWaitingHandler) {
+  int clicks = 0;
+  button->Click = [&] { ++clicks; };
+  int ticks = 0;
+  timer->TimerEvent = [&] { ++ticks; };
+  timer->Interval = 100;
+  timer->Enabled = true;
+  host->QueueAt(250, Click("CmdOk"));
+  // A handler waiting for three ticks, as the game's waits do.
+  while (ticks < 3) vb::DoEvents();
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(host->Now(), 300);
+  // Enabling a running timer does not restart it; setting the interval does.
+  timer->Enabled = true;
+  EXPECT_EQ(timer->timer_due, 400);
+  timer->Interval = 100;
+  EXPECT_EQ(timer->timer_due, 400);
+  host->RunFor(50);
+  timer->Interval = 100;
+  EXPECT_EQ(timer->timer_due, 450);
+}
+
+TEST_F(FormsTest, TicksDueTogetherFireInTheirFixedOrder) {
+  vb::Control& late = main->Add(vb::Kind::Timer, "Late");
+  late.timer_order = 3;
+  timer->timer_order = 0;
+  std::string order;
+  late.TimerEvent = [&] { order += "L"; };
+  timer->TimerEvent = [&] { order += "T"; };
+  late.Interval = 100;
+  late.Enabled = true;
+  timer->Interval = 100;
+  timer->Enabled = true;
+  host->RunFor(200);
+  EXPECT_EQ(order, "TLTL");
+}
+
+TEST_F(FormsTest, ModalFormReturnsWhenItUnloads) {
+  vb::Form dialog("Dialog");
+  vb::Control& ok = dialog.Add(vb::Kind::CommandButton, "Ok");
+  ok.Click = [&] { vb::Engine::Get().Unload(dialog); };
+  bool unloaded = false;
+  dialog.Unload = [&](int&) { unloaded = true; };
+  vb::Input in;
+  in.form = &dialog;
+  in.control = "Ok";
+  host->QueueAt(500, in);
+  // The main form refuses input while the dialog is up.
+  host->QueueAt(100, Click("CmdOk"));
+  vb::Engine::Get().Show(dialog, true);
+  EXPECT_TRUE(unloaded);
+  EXPECT_EQ(host->Now(), 500);
+  ASSERT_EQ(host->refused.size(), 1u);
+  EXPECT_EQ(host->refused[0].control, "CmdOk");
+}
+
+TEST_F(FormsTest, ClosingTheMainFormDuringAWaitRunsTheUnloadAndEnds) {
+  bool unloaded = false, resumed = false;
+  main->Unload = [&](int&) { unloaded = true; };
+  timer->Interval = 1000;
+  timer->Enabled = true;
+  vb::Input close;
+  close.type = vb::Input::Type::Close;
+  close.form = main.get();
+  host->QueueAtNextWait(close);
+  try {
+    vb::DoEvents();
+    resumed = true;
+  } catch (const vb::ProgramEnded& e) {
+    EXPECT_EQ(e.status, 0);
+    EXPECT_EQ(e.how, vb::EndHow::Unloaded);
+  }
+  EXPECT_TRUE(unloaded);
+  EXPECT_FALSE(resumed);
+}
+
+TEST_F(FormsTest, ClosingAMarkedDialogEndsTheGameThroughTheMainUnload) {
+  bool main_unloaded = false;
+  main->Unload = [&](int&) { main_unloaded = true; };
+  vb::Form dialog("Shuffle");
+  dialog.close_ends_game = true;
+  vb::Control& t = dialog.Add(vb::Kind::Timer, "T");
+  t.Interval = 50;
+  t.Enabled = true;
+  vb::Input close;
+  close.type = vb::Input::Type::Close;
+  close.form = &dialog;
+  host->QueueAt(120, close);
+  bool after = false;
+  try {
+    vb::Engine::Get().Show(dialog, true);
+    after = true;
+  } catch (const vb::ProgramEnded& e) {
+    EXPECT_EQ(e.how, vb::EndHow::Unloaded);
+  }
+  EXPECT_TRUE(main_unloaded);
+  EXPECT_FALSE(after);
+}
+
+TEST_F(FormsTest, EndRunsNoUnloadAndHangRefusesInput) {
+  bool unloaded = false;
+  main->Unload = [&](int&) { unloaded = true; };
+  try {
+    vb::Engine::Get().End();
+  } catch (const vb::ProgramEnded& e) {
+    EXPECT_EQ(e.how, vb::EndHow::End);
+  }
+  EXPECT_FALSE(unloaded);
+
+  EXPECT_THROW(vb::Engine::Get().Hang(), vb::ProgramHung);
+  EXPECT_EQ(main->Caption.get(), std::string("Jogo") + vb::kNotResponding);
+  EXPECT_FALSE(vb::Engine::Get().Deliver(Click("CmdOk")));
+  vb::Input close;
+  close.type = vb::Input::Type::Close;
+  close.form = main.get();
+  try {
+    vb::Engine::Get().Deliver(close);
+    FAIL();
+  } catch (const vb::ProgramEnded& e) {
+    EXPECT_EQ(e.how, vb::EndHow::HungClose);
+  }
+  EXPECT_FALSE(unloaded);
+}
+
+TEST_F(FormsTest, AClickTakesTheFocusEvenWhenLostFocusMovesIt) {
+  // A LostFocus handler that wraps the focus back does not stop the click.
+  pics(0).SetFocus();
+  pics(0).LostFocus = [&] { pics(2).SetFocus(); };
+  int clicks = 0;
+  button->Click = [&] { ++clicks; };
+  EXPECT_TRUE(vb::Engine::Get().Deliver(Click("CmdOk")));
+  EXPECT_EQ(clicks, 1);
+  button->Enabled = false;
+  EXPECT_FALSE(vb::Engine::Get().Deliver(Click("CmdOk")));
+  EXPECT_EQ(clicks, 1);
+}
+
+}  // namespace
