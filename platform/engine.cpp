@@ -62,17 +62,20 @@ void Engine::Reset() {
 
 // --- forms -----------------------------------------------------------------------------------
 
-void Engine::Show(Form& form, bool modal) {
+void Engine::Load(Form& form) {
   Register(form);
-  if (!form.loaded_) {
-    form.loaded_ = true;
-    // Timers enabled at design start counting when their form loads.
-    for (const auto& c : form.controls())
-      if (c->kind() == Kind::Timer && c->Enabled) TimerChanged(*c, Prop::Enabled);
-    Changed(form, Prop::Loaded, 1);
-    if (form.Load) form.Load();
-    if (!form.loaded_) return;  // it unloaded itself while loading
-  }
+  if (form.loaded_) return;
+  form.loaded_ = true;
+  // Timers enabled at design start counting when their form loads.
+  for (const auto& c : form.controls())
+    if (c->kind() == Kind::Timer && c->Enabled) TimerChanged(*c, Prop::Enabled);
+  Changed(form, Prop::Loaded, 1);
+  if (form.Load) form.Load();
+}
+
+void Engine::Show(Form& form, bool modal) {
+  Load(form);
+  if (!form.loaded_) return;  // it unloaded itself while loading
   form.modal = modal;
   form.Visible = true;
   if (!modal) return;

@@ -79,6 +79,7 @@ class Engine {
   void Changed(Control& control, Prop prop, int sub);
 
   // Forms: show (a modal show returns when the form has unloaded), unload, and the two ends.
+  void Load(Form& form);  // loads without showing; the Load event runs, timers start
   void Show(Form& form, bool modal = false);
   void Unload(Form& form);
   [[noreturn]] void End();

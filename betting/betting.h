@@ -1,0 +1,30 @@
+// The betting flow: the player's commands, the opponent's turns in the two rounds, the showdown.
+#pragma once
+
+// The player's commands.
+void CmdPago_Click();
+void CmdTudo_Click();
+void CmdDesfazer_Click(int Index);
+void CmdAcabei_Click(int Index);
+void CmdAcabei_GotFocus(int Index);
+void CmdAcabei_LostFocus(int Index);
+void CmdSair_Click(int Index);
+void CmdConfrontar_Click();
+
+// The opponent's turns and the showdown.
+void VezPokerAbertura();
+void VezPokerFinal();
+void ConfrontarJogos();
+
+// Steps shared by the commands and both rounds.
+void FecharAposta();
+void FecharPlayer();
+void AcertarPilhas();
+bool SemMaisApostas();
+void EntrarConfronto();
+void EntrarTroca();
+void MostrarFim(const char* linha1, const char* linha2, const char* linha3 = nullptr);
+void TocarFim(const char* nome);
+void TocarEfeito(const char* nome);
+void RetomarMusica();
+void PlayerDesiste();

@@ -1,0 +1,17 @@
+// The life of a hand, from start-up to the end of the game. There is no main loop: a hand is a
+// chain of handlers, and the opponent's moves run synchronously inside them, with Esperar pausing
+// while the screen stays alive.
+#pragma once
+
+void Form_Initialize();
+void Form_Unload(int& Cancel);
+void NovaMao();
+void CobrarPingo();
+void IniciarApostas();
+void PrepararPlayer();
+void Esperar(float Vezes, int Intervalo);
+void TimerEspera_Timer();
+void OcultarMoedas();
+void AjustarTela();
+void CmdMaisUma_Click();
+void Timer1_Timer();
