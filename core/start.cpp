@@ -11,6 +11,9 @@
 #include "table/cards.h"
 #include "table/frm_principal.h"
 
+void (*g_ajustes_iniciais)() = nullptr;
+void (*g_depois_da_fala)(bool Lado) = nullptr;
+
 namespace {
 
 // Her words and the table's go into the three caption labels of that side's balloon.
@@ -20,6 +23,7 @@ void EscreverFala(bool Lado, const Fala& fala) {
   labels(0).Caption = fala.Nome;
   labels(1).Caption = fala.Linha1;
   labels(2).Caption = fala.Linha2;
+  if (g_depois_da_fala) g_depois_da_fala(Lado);
 }
 
 void LigarEventos(FrmPrincipal& f) {

@@ -4,3 +4,8 @@
 #pragma once
 
 void IniciarJogo();
+
+// Hooks for the headless replay: settings applied at the end of ValoresIniciais, as the menu
+// would, and a look at each speech once it is on the labels.
+extern void (*g_ajustes_iniciais)();
+extern void (*g_depois_da_fala)(bool Lado);

@@ -1,4 +1,5 @@
 #include "core/game_state.h"
+#include "core/start.h"
 #include "table/frm_principal.h"
 
 // The settings at the start of the program. (A new game sets its own, which differ.)
@@ -30,4 +31,5 @@ void ValoresIniciais() {
   EfeitosOn = false;
   f.MnuEfeitos.Checked = EfeitosOn;
   TocandoEfeito = 0;
+  if (g_ajustes_iniciais) g_ajustes_iniciais();
 }

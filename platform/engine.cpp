@@ -67,8 +67,8 @@ void Engine::Load(Form& form) {
   if (form.loaded_) return;
   form.loaded_ = true;
   // Timers enabled at design start counting when their form loads.
-  for (const auto& c : form.controls())
-    if (c->kind() == Kind::Timer && c->Enabled) TimerChanged(*c, Prop::Enabled);
+  for (Control* t : form.timers())
+    if (t->Enabled) TimerChanged(*t, Prop::Enabled);
   Changed(form, Prop::Loaded, 1);
   if (form.Load) form.Load();
 }
@@ -89,8 +89,7 @@ void Engine::Unload(Form& form) {
   int cancel = 0;
   if (form.Unload) form.Unload(cancel);
   form.loaded_ = false;
-  for (const auto& c : form.controls())
-    if (c->kind() == Kind::Timer) c->timer_due = -1;
+  for (Control* t : form.timers()) t->timer_due = -1;
   if (host_) host_->TimersChanged();
   form.active_ = nullptr;
   form.Visible = false;
@@ -106,8 +105,7 @@ void Engine::End() {
 void Engine::Hang() {
   hung_ = true;
   for (Form* f : forms_)
-    for (const auto& c : f->controls())
-      if (c->kind() == Kind::Timer) c->timer_due = -1;
+    for (Control* t : f->timers()) t->timer_due = -1;
   if (Form* main = MainForm()) main->Caption = main->Caption.get() + kNotResponding;
   host_->Hang();
   std::terminate();
@@ -134,9 +132,8 @@ void Engine::TimerChanged(Control& timer, Prop prop) {
 std::int64_t Engine::NextTimerDue() const {
   std::int64_t next = -1;
   for (Form* f : forms_)
-    for (const auto& c : f->controls())
-      if (c->kind() == Kind::Timer && c->timer_due >= 0 && (next < 0 || c->timer_due < next))
-        next = c->timer_due;
+    for (Control* t : f->timers())
+      if (t->timer_due >= 0 && (next < 0 || t->timer_due < next)) next = t->timer_due;
   return next;
 }
 
@@ -145,9 +142,8 @@ bool Engine::FireDueTimers() {
   const std::int64_t now = Now();
   std::vector<Control*> due;
   for (Form* f : forms_)
-    for (const auto& c : f->controls())
-      if (c->kind() == Kind::Timer && c->timer_due >= 0 && c->timer_due <= now)
-        due.push_back(c.get());
+    for (Control* t : f->timers())
+      if (t->timer_due >= 0 && t->timer_due <= now) due.push_back(t);
   std::stable_sort(due.begin(), due.end(), [](Control* a, Control* b) {
     return a->timer_due != b->timer_due ? a->timer_due < b->timer_due
                                         : a->timer_order < b->timer_order;

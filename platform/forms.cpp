@@ -179,22 +179,26 @@ Form::~Form() {
 Control& Form::Add(Kind kind, const std::string& name, Control* parent, int index) {
   controls_.push_back(std::make_unique<Control>(this, parent, kind, name, index));
   Control& c = *controls_.back();
+  by_name_[{name, index}] = &c;
   if (parent) parent->children_.push_back(&c);
-  if (kind == Kind::Timer) c.Enabled = false;
+  if (kind == Kind::Timer) {
+    c.Enabled = false;
+    timers_.push_back(&c);
+  }
   return c;
 }
 
 ImageList& Form::AddImageList(const std::string& name) {
   auto list = std::make_unique<ImageList>(this, name);
   ImageList& ref = *list;
+  by_name_[{name, -1}] = &ref;
   controls_.push_back(std::move(list));
   return ref;
 }
 
 Control* Form::Find(const std::string& name, int index) const {
-  for (const auto& c : controls_)
-    if (c->Name() == name && c->Index() == index) return c.get();
-  return nullptr;
+  auto it = by_name_.find({name, index});
+  return it == by_name_.end() ? nullptr : it->second;
 }
 
 std::vector<Control*> Form::TabOrder() const {

@@ -243,6 +243,7 @@ class Form : public Control {
   ImageList& AddImageList(const std::string& name);
   Control* Find(const std::string& name, int index = -1) const;
   const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
+  const std::vector<Control*>& timers() const { return timers_; }
 
   std::function<void()> Load;
   std::function<void(int& cancel)> Unload;
@@ -267,6 +268,8 @@ class Form : public Control {
   friend class Engine;
   friend class Control;
   std::vector<std::unique_ptr<Control>> controls_;
+  std::vector<Control*> timers_;
+  std::map<std::pair<std::string, int>, Control*> by_name_;
   Control* active_ = nullptr;
   bool loaded_ = false;
 };

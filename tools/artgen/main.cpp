@@ -1,0 +1,202 @@
+// pokerzeva-artgen: paints every picture of PokerZEVA and writes them as PNG files.
+//
+//   pokerzeva-artgen --out assets/images [--sheet contact_sheet.png] [--zoom N]
+//                    [--only PREFIX]
+//
+// Each picture is painted twice from the same vector drawing: at 1x into
+// <name>.png and at 2x into <name>@2x.png. The output is deterministic: no
+// timestamps or text chunks are written and nothing random is used.
+#include <QDir>
+#include <QFileInfo>
+#include <QFont>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QImage>
+#include <QImageWriter>
+#include <QStringList>
+#include <algorithm>
+#include <cstdio>
+
+#include "art.h"
+
+namespace {
+
+QImage render(const artgen::Art& art, int scale) {
+  QImage img(art.width * scale, art.height * scale, QImage::Format_ARGB32_Premultiplied);
+  img.fill(Qt::transparent);
+  {
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setRenderHint(QPainter::TextAntialiasing, true);
+    p.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    p.scale(scale, scale);
+    art.draw(p);
+  }
+  QImage out = img.convertToFormat(QImage::Format_ARGB32);
+  // Fixed resolution so nothing about the machine leaks into the file.
+  out.setDotsPerMeterX(2835);
+  out.setDotsPerMeterY(2835);
+  return out;
+}
+
+bool save(const QImage& img, const QString& path) {
+  QDir().mkpath(QFileInfo(path).absolutePath());
+  QImageWriter writer(path, "png");
+  // For PNG a quality of 0 means the strongest zlib compression (the separate
+  // "compression" setting turns compression off in Qt's PNG writer).
+  writer.setQuality(0);
+  if (!writer.write(img)) {
+    std::fprintf(stderr, "cannot write %s: %s\n", qPrintable(path),
+                 qPrintable(writer.errorString()));
+    return false;
+  }
+  return true;
+}
+
+// One sheet with every 1x picture and its name underneath, grouped by section.
+QImage contactSheet(const artgen::ArtList& list, const std::vector<QImage>& images) {
+  const int sheetW = 1240;
+  const int margin = 10;
+  const int gap = 8;
+  QFont labelFont(QStringLiteral("DejaVu Sans"));
+  labelFont.setPixelSize(10);
+  QFont headFont(QStringLiteral("DejaVu Sans"));
+  headFont.setPixelSize(15);
+  headFont.setBold(true);
+  const QFontMetrics lm(labelFont);
+  const int labelH = lm.height() + 2;
+
+  struct Place {
+    QPoint pos;
+    int cellW;
+  };
+  std::vector<Place> places(list.size());
+  std::vector<std::pair<QString, int>> heads;  // heading text and y
+  int x = margin;
+  int y = margin;
+  int rowH = 0;
+  QString section;
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    const auto& art = list[i];
+    if (art.section != section) {
+      section = art.section;
+      if (rowH > 0 || i > 0) y += rowH + gap;
+      heads.emplace_back(section, y);
+      y += 22;
+      x = margin;
+      rowH = 0;
+    }
+    const QString label = QFileInfo(art.name).fileName();
+    const int cellW = std::max(art.width, lm.horizontalAdvance(label)) + gap;
+    if (x + cellW > sheetW - margin) {
+      x = margin;
+      y += rowH + gap;
+      rowH = 0;
+    }
+    places[i] = {QPoint(x, y), cellW};
+    x += cellW;
+    rowH = std::max(rowH, art.height + labelH);
+  }
+  const int sheetH = y + rowH + margin;
+
+  QImage sheet(sheetW, sheetH, QImage::Format_ARGB32);
+  sheet.fill(QColor(0x1c, 0x5a, 0x36));
+  QPainter p(&sheet);
+  p.setRenderHint(QPainter::TextAntialiasing, true);
+  p.setPen(QColor(0xf0, 0xe6, 0xb4));
+  p.setFont(headFont);
+  for (const auto& [text, hy] : heads) p.drawText(margin, hy + 16, text);
+  p.setFont(labelFont);
+  p.setPen(QColor(0xff, 0xff, 0xff));
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    const auto& art = list[i];
+    const QPoint at = places[i].pos;
+    const int ix = at.x() + (places[i].cellW - gap - art.width) / 2;
+    p.drawImage(ix, at.y(), images[i]);
+    const QString label = QFileInfo(art.name).fileName();
+    p.drawText(QRect(at.x(), at.y() + art.height + 1, places[i].cellW - gap, labelH),
+               Qt::AlignHCenter | Qt::AlignTop, label);
+  }
+  p.end();
+  sheet.setDotsPerMeterX(2835);
+  sheet.setDotsPerMeterY(2835);
+  return sheet;
+}
+
+void usage() {
+  std::fprintf(stderr,
+               "usage: pokerzeva-artgen --out DIR [--sheet FILE.png] [--zoom N] [--only PREFIX]\n");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // Headless: paint without any display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication app(argc, argv);
+
+  QString outDir;
+  QString sheetPath;
+  QString only;
+  int zoom = 1;
+  const QStringList args = app.arguments();
+  for (int i = 1; i < args.size(); ++i) {
+    const QString& a = args[i];
+    const bool hasValue = i + 1 < args.size();
+    if (a == QLatin1String("--out") && hasValue) {
+      outDir = args[++i];
+    } else if (a == QLatin1String("--sheet") && hasValue) {
+      sheetPath = args[++i];
+    } else if (a == QLatin1String("--zoom") && hasValue) {
+      zoom = std::clamp(args[++i].toInt(), 1, 8);
+    } else if (a == QLatin1String("--only") && hasValue) {
+      only = args[++i];
+    } else {
+      usage();
+      return 2;
+    }
+  }
+  if (outDir.isEmpty() && sheetPath.isEmpty()) {
+    usage();
+    return 2;
+  }
+
+  artgen::ArtList all;
+  artgen::addCardFaces(all);
+  artgen::addCardBacks(all);
+  artgen::addChipPiles(all);
+  artgen::addExtras(all);
+  artgen::addFaces(all);
+  artgen::addBalloon(all);
+  artgen::addShuffle(all);
+
+  artgen::ArtList list;
+  for (auto& art : all) {
+    if (only.isEmpty() || art.name.startsWith(only)) list.push_back(std::move(art));
+  }
+
+  std::vector<QImage> ones;
+  ones.reserve(list.size());
+  int written = 0;
+  for (const auto& art : list) {
+    QImage one = render(art, 1);
+    if (!outDir.isEmpty()) {
+      const QImage two = render(art, 2);
+      if (!save(one, outDir + QLatin1Char('/') + art.name + QStringLiteral(".png")) ||
+          !save(two, outDir + QLatin1Char('/') + art.name + QStringLiteral("@2x.png"))) {
+        return 1;
+      }
+      written += 2;
+    }
+    ones.push_back(std::move(one));
+  }
+
+  if (!sheetPath.isEmpty()) {
+    QImage sheet = contactSheet(list, ones);
+    if (zoom > 1)
+      sheet = sheet.scaled(sheet.size() * zoom, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    if (!save(sheet, sheetPath)) return 1;
+  }
+  std::printf("%d pictures, %d files written\n", static_cast<int>(list.size()), written);
+  return 0;
+}

@@ -1,0 +1,440 @@
+#include "replay.h"
+
+#include <istream>
+#include <map>
+#include <memory>
+#include <ostream>
+#include <sstream>
+
+#include "chips/chips.h"
+#include "core/game_state.h"
+#include "core/start.h"
+#include "platform/engine.h"
+#include "platform/mci.h"
+#include "platform/rnd.h"
+#include "platform/runtime.h"
+#include "platform/settings.h"
+#include "platform/virtual_host.h"
+#include "table/frm_principal.h"
+
+namespace replay {
+
+std::string Json(const std::string& text) {
+  std::string s = "\"";
+  for (unsigned char c : text) {
+    switch (c) {
+      case '"':
+        s += "\\\"";
+        break;
+      case '\\':
+        s += "\\\\";
+        break;
+      case '\n':
+        s += "\\n";
+        break;
+      case '\r':
+        s += "\\r";
+        break;
+      case '\t':
+        s += "\\t";
+        break;
+      default:
+        if (c < 0x20) {
+          char buf[8];
+          std::snprintf(buf, sizeof buf, "\\u%04x", c);
+          s += buf;
+        } else {
+          s += static_cast<char>(c);
+        }
+    }
+  }
+  return s + "\"";
+}
+
+bool Options::Parse(std::vector<std::string>& args, std::string& error) {
+  std::vector<std::string> rest;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& a = args[i];
+    auto number = [&](long long& into) {
+      if (i + 1 >= args.size()) {
+        error = a + " needs a number";
+        return false;
+      }
+      char* end = nullptr;
+      into = std::strtoll(args[++i].c_str(), &end, 10);
+      if (*end) {
+        error = a + " needs a number";
+        return false;
+      }
+      return true;
+    };
+    long long n = 0;
+    if (a == "--seed") {
+      if (!number(n)) return false;
+      seed = static_cast<std::uint64_t>(n);
+    } else if (a == "--effects") {
+      effects = true;
+    } else if (a == "--music") {
+      music = true;
+    } else if (a == "--cards") {
+      if (!number(n)) return false;
+      cards = static_cast<int>(n);
+    } else if (a == "--chips") {
+      if (!number(n)) return false;
+      chips = static_cast<int>(n);
+    } else if (a == "--exchange") {
+      if (!number(n)) return false;
+      exchange = static_cast<int>(n);
+    } else if (a == "--no-limit") {
+      no_limit = true;
+    } else if (a == "--full-beats-flush") {
+      full_beats_flush = true;
+    } else if (a == "--straight-beats-trips") {
+      straight_beats_trips = true;
+    } else if (a.rfind("--", 0) == 0) {
+      error = "unknown option " + a;
+      return false;
+    } else {
+      rest.push_back(a);
+    }
+  }
+  args = rest;
+  return true;
+}
+
+// --- what the game shows, as it happens --------------------------------------------------------
+
+namespace {
+Session* g_session = nullptr;
+Options g_options;
+}  // namespace
+
+struct Observer : vb::Listener {
+  Session* session;
+  std::map<std::string, std::string> labels;  // last caption of each watched label
+  std::map<std::string, std::string> cards;   // last image of each card button
+
+  void Changed(vb::Control& c, vb::Prop prop, int sub) override {
+    // Only the table; never create it from here (this runs while it is being built).
+    if (c.form().Name() != "Frm_Principal") return;
+    if (prop == vb::Prop::Caption) {
+      static const char* kWatched[] = {
+          "LabelPokerFichas",         "LabelPokerMoney",           "LabelPlayerFichas",
+          "LabelPlayerMoney",         "LabelMesaFichas",           "LabelMesaMoney",
+          "LabelPokerMesaTotalCoims", "LabelPlayerMesaTotalCoims", "LabelManoMesa",
+          "LabelPokerMensagem"};
+      for (const char* name : kWatched) {
+        if (c.Name() != name) continue;
+        auto it = labels.find(name);
+        const std::string& now = c.Caption.get();
+        if (it == labels.end() ? !now.empty() : it->second != now) {
+          labels[name] = now;
+          session->Emit("label", "\"name\": " + Json(name) + ", \"caption\": " + Json(now));
+        }
+      }
+    } else if (prop == vb::Prop::ButtonImage && sub % 2 == 0 &&
+               (c.Name() == "ToolbarPoker" || c.Name() == "ToolbarPlayer")) {
+      const std::string key = c.Name() + std::to_string(sub);
+      const std::string image = c.Button(sub).ImageKey();
+      auto it = cards.find(key);
+      if (it == cards.end() ? !image.empty() : it->second != image) {
+        cards[key] = image;
+        session->Emit("card", std::string("\"side\": ") +
+                                  (c.Name() == "ToolbarPoker" ? "\"poker\"" : "\"player\"") +
+                                  ", \"pos\": " + std::to_string(sub / 2) + ", \"image\": " +
+                                  (image.empty() ? "null" : Json(image)));
+      }
+    }
+  }
+};
+
+struct Session::Impl {
+  vb::VirtualHost host;
+  Observer observer;
+};
+
+namespace {
+
+void AjustesDaReplay() {
+  const Options& o = g_options;
+  auto& f = Frm_Principal();
+  if (o.effects) {
+    EfeitosOn = true;
+    f.MnuEfeitos.Checked = true;
+  }
+  if (o.music) {
+    MusicaOn = true;
+    f.MnuMusica.Checked = true;
+  }
+  if (o.cards) NroCartas = static_cast<std::uint8_t>(o.cards);
+  if (o.chips) NroFichas = o.chips;
+  if (o.exchange >= 0) MaxTroca = static_cast<std::uint8_t>(o.exchange);
+  if (o.no_limit) {
+    LimiteAbertura = false;
+    LimiteFichas = NroFichas;
+    f.MnuLimite.Checked = false;
+  }
+  if (o.full_beats_flush) {
+    FullMataCor = true;
+    f.MnuFullxCor.Checked = true;
+  }
+  if (o.straight_beats_trips) {
+    TrioMataEscada = false;
+    f.MnuTrioXEscada.Checked = false;
+  }
+}
+
+void DepoisDaFala(bool Lado) {
+  auto& f = Frm_Principal();
+  vb::ControlArray<>& l = Lado ? f.LabelPokerCaption : f.LabelPlayerCaption;
+  g_session->Emit("speech", std::string("\"side\": ") + (Lado ? "\"poker\"" : "\"player\"") +
+                                ", \"speaker\": " + Json(l(0).Caption.get()) +
+                                ", \"line1\": " + Json(l(1).Caption.get()) +
+                                ", \"line2\": " + Json(l(2).Caption.get()));
+}
+
+void FaseMudou(const std::string& /*from*/, const std::string& to) {
+  g_session->Emit("fase", "\"to\": " + vb::LongText(static_cast<long long>(vb::Val(to))));
+}
+
+}  // namespace
+
+Session::Session(const Options& options, std::ostream* out)
+    : options_(options), out_(out), impl_(nullptr) {
+  vb::Engine::Get().Reset();
+  DestruirFormularios();
+  ResetGameState();
+  vb::ScriptRnd({});
+  vb::SetRndState(options.seed);
+  vb::InstallSettings(nullptr);  // a replay never touches the player's stored seed
+  vb::ClearMciSent();
+  impl_ = new Impl();
+  impl_->observer.session = this;
+  g_session = this;
+  g_options = options;
+  g_ajustes_iniciais = AjustesDaReplay;
+  g_depois_da_fala = DepoisDaFala;
+  FaseVar::Observe(FaseMudou);
+  vb::InstallMciSink(
+      [this](const std::string& command) { Emit("mci", "\"command\": " + Json(command)); });
+  vb::Engine::Get().AddListener(&impl_->observer);
+}
+
+Session::~Session() {
+  vb::InstallMciSink(nullptr);
+  FaseVar::Observe(nullptr);
+  g_ajustes_iniciais = nullptr;
+  g_depois_da_fala = nullptr;
+  vb::Engine::Get().Reset();
+  DestruirFormularios();
+  delete impl_;
+  g_session = nullptr;
+}
+
+std::int64_t Session::now() const { return impl_->host.Now(); }
+
+void Session::Emit(const std::string& kind, const std::string& rest) {
+  vb::ClearMciSent();  // the printer keeps the record; the recorder need not grow
+  if (!out_) return;
+  *out_ << "{\"t\": " << now() << ", \"kind\": \"" << kind << "\"" << (rest.empty() ? "" : ", ")
+        << rest << "}\n";
+}
+
+void Session::Run(const std::function<void()>& body, const std::string& last_word) {
+  try {
+    body();
+  } catch (const vb::ProgramEnded& e) {
+    if (e.how == vb::EndHow::End) {
+      over_how_ = "ante";
+    } else if (last_word == "close") {
+      over_how_ = "closed";
+    } else if (last_word == "quit" || last_word == "click CmdSair 2") {
+      over_how_ = "quit";
+    } else {
+      over_how_ = "showdown";
+    }
+    Emit("gameover", "\"how\": \"" + over_how_ + "\"");
+  } catch (const vb::ProgramHung&) {
+    over_how_ = "hung";
+    Emit("gameover", "\"how\": \"hung\"");
+  } catch (const vb::RuntimeError& e) {
+    over_how_ = "fault";
+    fault_ = e.number();
+    Emit("fault", "\"number\": " + std::to_string(e.number()));
+  }
+}
+
+void Session::Start() {
+  Run([] { IniciarJogo(); }, "");
+}
+
+namespace {
+
+int Denom(const std::string& v) {
+  for (int i = 0; i < 4; ++i)
+    if (v == std::to_string(kDenominacoes[i].valor)) return i;
+  return -1;
+}
+
+vb::Input Make(vb::Input::Type type, const std::string& control, int index = -1) {
+  vb::Input in;
+  in.type = type;
+  in.form = &Frm_Principal();
+  in.control = control;
+  in.index = index;
+  return in;
+}
+
+}  // namespace
+
+bool Session::Play(const std::string& raw, int line_number) {
+  std::string line = raw.substr(0, raw.find('#'));
+  std::istringstream words(line);
+  std::string word;
+  if (!(words >> word)) return true;  // blank or comment
+  auto refuse = [&] {
+    Emit("illegal", "\"line\": " + std::to_string(line_number));
+    return false;
+  };
+  if (over()) return refuse();
+
+  auto& f = Frm_Principal();
+  auto& engine = vb::Engine::Get();
+  if (word == "wait") {
+    long long ms = -1;
+    if (!(words >> ms) || ms < 0) return refuse();
+    Run([&] { impl_->host.RunFor(ms); }, word);
+    return true;
+  }
+  if (word == "close") {
+    vb::Input in = Make(vb::Input::Type::Close, "");
+    if (!engine.Accepts(in)) return refuse();
+    Run([&] { engine.Deliver(in); }, word);
+    return true;
+  }
+  if (!f.Visible) return refuse();  // the table is not up yet
+
+  vb::Input in;
+  bool focus_first = false;
+  if (word == "chip") {
+    std::string v, how = "button";
+    words >> v >> how;
+    const int d = Denom(v);
+    if (d < 0 || !FaseDeApostas()) return refuse();
+    const Denominacao& den = kDenominacoes[d];
+    if (how == "button") {
+      in = Make(vb::Input::Type::ButtonClick, "ToolbarPlayerCoins");
+      in.button = den.botao;
+    } else if (how == "pic") {
+      in = Make(vb::Input::Type::Click, "PicFichasPlayer", den.pic);
+    } else if (how == "label") {
+      in = Make(vb::Input::Type::Click, "LabelPlayerFichasPOT", den.pic);
+    } else if (how == "key") {
+      in = Make(vb::Input::Type::Key, "PicFichasPlayer", den.pic);
+      in.key_code = 32;
+      focus_first = true;
+    } else {
+      return refuse();
+    }
+  } else if (word == "mark") {
+    int p = 0;
+    std::string how = "pic";
+    words >> p >> how;
+    if (p < 1 || p > 5 || Fase != 20) return refuse();
+    if (how == "pic") {
+      in = Make(vb::Input::Type::Click, "PicCartasPlayer", p - 1);
+    } else if (how == "button") {
+      in = Make(vb::Input::Type::ButtonClick, "ToolbarPlayer");
+      in.button = 2 * p;
+    } else {
+      return refuse();
+    }
+  } else if (word == "click") {
+    std::string name;
+    int index = -1;
+    words >> name;
+    words >> index;
+    static const char* kButtons[] = {"CmdPago", "CmdTudo",       "CmdDesfazer", "CmdAcabei",
+                                     "CmdSair", "CmdConfrontar", "CmdMaisUma"};
+    bool known = false;
+    for (const char* b : kButtons) known = known || name == b;
+    if (!known) return refuse();
+    in = Make(vb::Input::Type::Click, name, index);
+  } else if (word == "confront") {
+    in = Make(vb::Input::Type::Click, "CmdConfrontar");
+  } else if (word == "more") {
+    in = Make(vb::Input::Type::Click, "CmdMaisUma");
+  } else if (word == "quit") {
+    in = Make(vb::Input::Type::Click, "CmdSair", 2);
+  } else if (word == "giveup") {
+    in = Make(vb::Input::Type::Click, "CmdSair", f.FraPedeCartasPlayer.Visible ? 1 : 0);
+  } else {
+    return refuse();
+  }
+  if (focus_first) {
+    vb::Control* target = f.Find(in.control, in.index);
+    if (!target || !target->CanTakeFocus() || !engine.Accepts(Make(vb::Input::Type::Click, in.control, in.index)))
+      return refuse();
+  } else if (!engine.Accepts(in)) {
+    return refuse();
+  }
+  if (word == "click" && in.control == "CmdSair" && in.index == 2) word = "click CmdSair 2";
+  Run(
+      [&] {
+        if (focus_first) {
+          f.FocusTo(f.Find(in.control, in.index));
+          in.control.clear();  // the key goes to the focused control
+          in.index = -1;
+        }
+        engine.Deliver(in);
+      },
+      word);
+  return true;
+}
+
+void Session::PlayScript(std::istream& script) {
+  std::string line;
+  int n = 0;
+  while (std::getline(script, line)) Play(line, ++n);
+}
+
+std::vector<std::string> Session::LegalActions() const {
+  std::vector<std::string> actions;
+  if (over()) return actions;
+  auto& f = Frm_Principal();
+  auto& engine = vb::Engine::Get();
+  if (!f.Visible) return actions;
+  auto accepts = [&](vb::Input::Type type, const std::string& name, int index, int button = 0) {
+    vb::Input in = Make(type, name, index);
+    in.button = button;
+    return engine.Accepts(in);
+  };
+  if (FaseDeApostas()) {
+    for (const Denominacao& d : kDenominacoes) {
+      if (accepts(vb::Input::Type::ButtonClick, "ToolbarPlayerCoins", -1, d.botao))
+        actions.push_back("chip " + std::to_string(d.valor) + " button");
+      if (accepts(vb::Input::Type::Click, "PicFichasPlayer", d.pic))
+        actions.push_back("chip " + std::to_string(d.valor) + " pic");
+    }
+  }
+  if (Fase == 20) {
+    for (int p = 1; p <= 5; ++p)
+      if (accepts(vb::Input::Type::Click, "PicCartasPlayer", p - 1))
+        actions.push_back("mark " + std::to_string(p));
+  }
+  static const struct {
+    const char* name;
+    int index;
+  } kButtons[] = {{"CmdPago", -1},    {"CmdTudo", -1},    {"CmdDesfazer", 0}, {"CmdDesfazer", 1},
+                  {"CmdAcabei", 0},   {"CmdAcabei", 1},   {"CmdSair", 0},     {"CmdSair", 1},
+                  {"CmdSair", 2},     {"CmdConfrontar", -1}, {"CmdMaisUma", -1}};
+  for (const auto& b : kButtons) {
+    if (accepts(vb::Input::Type::Click, b.name, b.index)) {
+      actions.push_back(std::string("click ") + b.name +
+                        (b.index >= 0 ? " " + std::to_string(b.index) : ""));
+    }
+  }
+  return actions;
+}
+
+}  // namespace replay

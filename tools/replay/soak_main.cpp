@@ -1,0 +1,18 @@
+// pokerzeva-soak [GAMES] [SEED]: a long run of the random player, with its figures.
+#include <chrono>
+#include <cstdlib>
+#include <iostream>
+
+#include "soak.h"
+
+int main(int argc, char** argv) {
+  const int games = argc > 1 ? std::atoi(argv[1]) : 2000;
+  const unsigned long long seed = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1;
+  const auto start = std::chrono::steady_clock::now();
+  const replay::SoakReport r = replay::RunSoak(games, seed);
+  const double secs =
+      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  std::cout << replay::Describe(r) << "wall time " << secs << " s, " << r.hands / secs
+            << " hands a second\n";
+  return r.fase_errors.empty() ? 0 : 1;
+}
