@@ -141,8 +141,8 @@ struct Observer : vb::Listener {
         cards[key] = image;
         session->Emit("card", std::string("\"side\": ") +
                                   (c.Name() == "ToolbarPoker" ? "\"poker\"" : "\"player\"") +
-                                  ", \"pos\": " + std::to_string(sub / 2) + ", \"image\": " +
-                                  (image.empty() ? "null" : Json(image)));
+                                  ", \"pos\": " + std::to_string(sub / 2) +
+                                  ", \"image\": " + (image.empty() ? "null" : Json(image)));
       }
     }
   }
@@ -231,7 +231,9 @@ Session::~Session() {
   g_session = nullptr;
 }
 
-std::int64_t Session::now() const { return impl_->host.Now(); }
+std::int64_t Session::now() const {
+  return impl_->host.Now();
+}
 
 void Session::Emit(const std::string& kind, const std::string& rest) {
   vb::ClearMciSent();  // the printer keeps the record; the recorder need not grow
@@ -373,7 +375,8 @@ bool Session::Play(const std::string& raw, int line_number) {
   }
   if (focus_first) {
     vb::Control* target = f.Find(in.control, in.index);
-    if (!target || !target->CanTakeFocus() || !engine.Accepts(Make(vb::Input::Type::Click, in.control, in.index)))
+    if (!target || !target->CanTakeFocus() ||
+        !engine.Accepts(Make(vb::Input::Type::Click, in.control, in.index)))
       return refuse();
   } else if (!engine.Accepts(in)) {
     return refuse();
@@ -425,9 +428,9 @@ std::vector<std::string> Session::LegalActions() const {
   static const struct {
     const char* name;
     int index;
-  } kButtons[] = {{"CmdPago", -1},    {"CmdTudo", -1},    {"CmdDesfazer", 0}, {"CmdDesfazer", 1},
-                  {"CmdAcabei", 0},   {"CmdAcabei", 1},   {"CmdSair", 0},     {"CmdSair", 1},
-                  {"CmdSair", 2},     {"CmdConfrontar", -1}, {"CmdMaisUma", -1}};
+  } kButtons[] = {{"CmdPago", -1},  {"CmdTudo", -1},       {"CmdDesfazer", 0}, {"CmdDesfazer", 1},
+                  {"CmdAcabei", 0}, {"CmdAcabei", 1},      {"CmdSair", 0},     {"CmdSair", 1},
+                  {"CmdSair", 2},   {"CmdConfrontar", -1}, {"CmdMaisUma", -1}};
   for (const auto& b : kButtons) {
     if (accepts(vb::Input::Type::Click, b.name, b.index)) {
       actions.push_back(std::string("click ") + b.name +

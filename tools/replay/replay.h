@@ -15,8 +15,8 @@ struct Options {
   std::uint64_t seed = 0;
   bool effects = false;
   bool music = false;
-  int cards = 0;     // 0: as the game starts
-  int chips = 0;     // 0: as the game starts
+  int cards = 0;      // 0: as the game starts
+  int chips = 0;      // 0: as the game starts
   int exchange = -1;  // -1: as the game starts
   bool no_limit = false;
   bool full_beats_flush = false;

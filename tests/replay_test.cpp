@@ -1,0 +1,72 @@
+// Whole games through the replay tool: scripts with the output a player would have seen, read
+// event by event when they were checked in, and a short soak of the random legal player.
+#include "replay.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "soak.h"
+
+namespace {
+
+std::string Read(const std::string& path) {
+  std::ifstream in(path);
+  std::stringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+struct Case {
+  const char* name;
+  std::vector<std::string> args;
+};
+
+class ReplayScripts : public ::testing::TestWithParam<Case> {};
+
+TEST_P(ReplayScripts, PlaysAsCheckedIn) {
+  const Case& c = GetParam();
+  const std::string dir = std::string(POKERZEVA_SOURCE_DIR) + "/tests/replays/";
+  std::vector<std::string> args = c.args;
+  replay::Options options;
+  std::string error;
+  ASSERT_TRUE(options.Parse(args, error)) << error;
+  std::ostringstream out;
+  {
+    replay::Session session(options, &out);
+    session.Start();
+    std::ifstream script(dir + c.name + ".script");
+    ASSERT_TRUE(script.good());
+    session.PlayScript(script);
+  }
+  EXPECT_EQ(out.str(), Read(dir + c.name + ".expected"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Games, ReplayScripts,
+                         ::testing::Values(Case{"cover_and_showdown", {"--seed", "0"}},
+                                           Case{"giveup_and_pass", {"--seed", "3"}},
+                                           Case{"all_in", {"--seed", "5", "--no-limit"}}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(ReplayTool, RefusesWhatTheScreenWouldRefuse) {
+  std::ostringstream out;
+  replay::Options options;
+  replay::Session session(options, &out);
+  session.Start();
+  EXPECT_FALSE(session.Play("mark 1", 1));               // no exchange yet
+  EXPECT_FALSE(session.Play("click CmdConfrontar", 2));  // its bar is hidden
+  EXPECT_FALSE(session.Play("dance", 3));
+  EXPECT_TRUE(session.Play("# a comment", 4));
+  EXPECT_NE(out.str().find("\"kind\": \"illegal\", \"line\": 1}"), std::string::npos);
+}
+
+TEST(Soak, RandomPlayerKeepsThePhasesInOrder) {
+  const replay::SoakReport r = replay::RunSoak(60, 7);
+  EXPECT_EQ(r.games, 60);
+  EXPECT_TRUE(r.fase_errors.empty()) << replay::Describe(r);
+  EXPECT_GT(r.hands, 60);
+}
+
+}  // namespace
