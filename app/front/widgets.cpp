@@ -1,0 +1,209 @@
+#include "front/widgets.h"
+
+#include <qdrawutil.h>
+
+#include <QCloseEvent>
+#include <QFontMetrics>
+#include <QImage>
+#include <QPainter>
+#include <QStyleOption>
+#include <cmath>
+
+#include "front/images.h"
+#include "front/names.h"
+
+namespace front {
+
+int Px(int twips) {
+  return static_cast<int>(std::lround(twips / 15.0));
+}
+
+QColor ColorOf(std::uint32_t rgb) {
+  return QColor(static_cast<int>((rgb >> 16) & 0xFF), static_cast<int>((rgb >> 8) & 0xFF),
+                static_cast<int>(rgb & 0xFF));
+}
+
+QFont FontOf(const vb::Font& font) {
+  QFont f;
+  // Both old faces have metric twins or near twins among the free fonts.
+  f.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")});
+  f.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * 96.0 / 72.0))));
+  f.setBold(font.bold);
+  return f;
+}
+
+namespace {
+
+// The picture a toolbar button shows: its key looked up in the attached store, if both exist.
+std::string ButtonPicture(vb::Control& toolbar, const vb::ToolbarButton& button) {
+  if (!toolbar.images || button.ImageKey().empty() || !toolbar.images->HasKey(button.ImageKey()))
+    return std::string();
+  return toolbar.images->PictureOf(button.ImageKey());
+}
+
+// The greyed look of a disabled button: light grey shades, the shape kept.
+QPixmap Greyed(const QPixmap& pixmap) {
+  QImage img = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < img.height(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(img.scanLine(y));
+    for (int x = 0; x < img.width(); ++x) {
+      const int g = 128 + qGray(line[x]) / 2;
+      line[x] = qRgba(g, g, g, qAlpha(line[x]) * 3 / 4);
+    }
+  }
+  QPixmap out = QPixmap::fromImage(img);
+  out.setDevicePixelRatio(pixmap.devicePixelRatio());
+  return out;
+}
+
+}  // namespace
+
+// --- frames ------------------------------------------------------------------------------------
+
+FrameWidget::FrameWidget(vb::Control& control, QWidget* parent)
+    : QWidget(parent), control_(control) {}
+
+void FrameWidget::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.fillRect(rect(), control_.HasBackColor ? ColorOf(control_.BackColor) : palette().window());
+  const QString caption = QString::fromStdString(control_.Caption);
+  if (caption.isEmpty()) return;
+  const QFontMetrics fm(font());
+  const int top = fm.height() / 2;
+  qDrawShadeRect(&p, QRect(0, top, width(), height() - top), palette(), true, 1);
+  const QRect text(6, 0, fm.horizontalAdvance(caption) + 4, fm.height());
+  p.fillRect(text, control_.HasBackColor ? ColorOf(control_.BackColor) : palette().window());
+  p.setPen(ColorOf(control_.ForeColor));
+  p.drawText(text, Qt::AlignCenter, caption);
+}
+
+// --- pictures ----------------------------------------------------------------------------------
+
+PictureWidget::PictureWidget(vb::Control& control, QWidget* parent)
+    : QWidget(parent), control_(control) {}
+
+void PictureWidget::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  if (control_.HasBackColor) p.fillRect(rect(), ColorOf(control_.BackColor));
+  const QPixmap pixmap = Picture(control_.Picture, devicePixelRatioF());
+  if (!pixmap.isNull()) p.drawPixmap(0, 0, pixmap);
+}
+
+// --- shapes and lines --------------------------------------------------------------------------
+
+ShapeWidget::ShapeWidget(vb::Control& control, QWidget* parent)
+    : QWidget(parent), control_(control) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ShapeWidget::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  const int thick = std::max(1, control_.BorderWidth);
+  if (control_.kind() == vb::Kind::Line) {
+    p.setPen(QPen(ColorOf(control_.ForeColor), thick));
+    p.drawLine(0, 0, std::max(0, width() - 1), std::max(0, height() - 1));
+    return;
+  }
+  if (control_.HasBackColor) p.fillRect(rect(), ColorOf(control_.BackColor));
+  p.setPen(QPen(ColorOf(control_.ForeColor), thick));
+  p.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+// --- toolbars ----------------------------------------------------------------------------------
+
+ToolbarButtonWidget::ToolbarButtonWidget(vb::Control& toolbar, int index, QWidget* parent)
+    : QAbstractButton(parent), toolbar_(toolbar), index_(index) {
+  setFocusPolicy(Qt::NoFocus);
+  setAttribute(Qt::WA_Hover);
+}
+
+void ToolbarButtonWidget::paintEvent(QPaintEvent*) {
+  if (index_ > static_cast<int>(toolbar_.Buttons().size())) return;
+  const vb::ToolbarButton& b = toolbar_.Button(index_);
+  QPainter p(this);
+  const bool sunk = b.Value() == 1 || isDown();
+  if (sunk) {
+    p.fillRect(rect().adjusted(1, 1, -1, -1), QColor(255, 255, 255, 60));
+    qDrawShadePanel(&p, rect(), palette(), true, 1);
+  } else if (underMouse() && isEnabled()) {
+    qDrawShadePanel(&p, rect(), palette(), false, 1);
+  }
+  QPixmap pixmap = Picture(ButtonPicture(toolbar_, b), devicePixelRatioF());
+  if (pixmap.isNull()) return;
+  if (!isEnabled()) pixmap = Greyed(pixmap);
+  const QSize size = pixmap.deviceIndependentSize().toSize();
+  const int shift = sunk ? 1 : 0;
+  p.drawPixmap((width() - size.width()) / 2 + shift, (height() - size.height()) / 2 + shift,
+               pixmap);
+}
+
+ToolbarWidget::ToolbarWidget(vb::Control& control, QWidget* parent)
+    : QWidget(parent), control_(control) {}
+
+void ToolbarWidget::SyncButtons(const std::function<void(ToolbarButtonWidget*)>& made) {
+  auto& model = control_.Buttons();
+  while (buttons_.size() < model.size()) {
+    auto* b = new ToolbarButtonWidget(control_, static_cast<int>(buttons_.size()) + 1, this);
+    buttons_.push_back(b);
+    b->lower();
+    made(b);
+  }
+}
+
+void ToolbarWidget::Layout() {
+  // Every image of a store has the same size: the buttons are sized from it, with the margin of
+  // the old toolbar round the image.
+  QSize image;
+  if (control_.images && control_.images->Count() > 0)
+    image = PictureSize(control_.images->PictureOf(1));
+  if (image.isEmpty()) image = QSize(71, 96);
+  const bool piles = image.width() > image.height();
+  int x = 0;
+  for (ToolbarButtonWidget* w : buttons_) {
+    const vb::ToolbarButton& b = control_.Button(w->index());
+    // The odd buttons without key or image are places kept free: under the chip places of a
+    // stack strip (so that pile i stands at 600 + 1920 i twips), or the narrow gaps between the
+    // cards of a hand (so that the cards stand under their key places).
+    const bool gap = w->index() % 2 == 1 && b.Key().empty() && b.ImageKey().empty();
+    const int width = gap ? (piles ? 40 : (w->index() == 1 ? 2 : 13)) : image.width() + 7;
+    w->setGeometry(x, 0, width, image.height() + 7);
+    w->setVisible(!gap);
+    x += width;
+  }
+}
+
+void ToolbarWidget::Refresh(int index) {
+  for (ToolbarButtonWidget* w : buttons_) {
+    if (index != 0 && w->index() != index) continue;
+    const vb::ToolbarButton& b = control_.Button(w->index());
+    w->setEnabled(b.Enabled());
+    w->setAccessibleName(ButtonName(control_, b));
+    w->setAccessibleDescription(
+        QStringLiteral("%1, botão %2").arg(QString::fromStdString(control_.Id())).arg(b.Index()));
+    w->update();
+  }
+}
+
+void ToolbarWidget::paintEvent(QPaintEvent*) {
+  // The flat toolbar lets its container's colour through, unless it has its own.
+  if (!control_.HasBackColor) return;
+  QPainter p(this);
+  p.fillRect(rect(), ColorOf(control_.BackColor));
+}
+
+// --- windows -----------------------------------------------------------------------------------
+
+FormWindow::FormWindow(vb::Form& form, std::function<void()> on_close)
+    : QWidget(nullptr), form_(form), on_close_(std::move(on_close)) {}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  on_close_();
+}
+
+void FormWindow::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.fillRect(rect(), form_.HasBackColor ? ColorOf(form_.BackColor) : palette().window());
+}
+
+}  // namespace front

@@ -1,0 +1,522 @@
+// The desktop front on Qt's offscreen platform: the sample table drawn with real widgets, clicks
+// and keys through Qt reaching the game's handlers, changes in the game reaching the widgets, a
+// wait that keeps timers and clicks alive, faults, and the ways the program ends.
+#include "front/front.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <cstdio>
+#include <memory>
+
+#include "front/guard.h"
+#include "front/images.h"
+#include "front/names.h"
+#include "front/qt_host.h"
+#include "platform/engine.h"
+#include "platform/runtime.h"
+#include "sample/sample_form.h"
+
+namespace {
+
+using vb::Engine;
+
+class FrontTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    pictures_ = new QTemporaryDir;
+    sample::WriteSampleImages(pictures_->path());
+  }
+  static void TearDownTestSuite() {
+    delete pictures_;
+    pictures_ = nullptr;
+  }
+
+  void SetUp() override {
+    Engine::Get().Reset();
+    front::SetImageFolder(pictures_->path());
+    front::ClearFault();
+    front::SetFaultReporter([this](int number, const std::string& message) {
+      faults.push_back(front::FaultText(number, message));
+    });
+    host = std::make_unique<front::QtHost>();
+    table = std::make_unique<sample::SampleForm>();
+    screen = std::make_unique<front::Front>();
+  }
+
+  void TearDown() override {
+    screen.reset();
+    table.reset();
+    host.reset();
+    Engine::Get().Reset();
+    front::SetFaultReporter(nullptr);
+    front::ClearFault();
+  }
+
+  // Shows the table as the game's start would, and waits until its window is on the screen.
+  QWidget* Show() {
+    EXPECT_TRUE(front::Guarded([&] { Engine::Get().Show(table->form); }));
+    QWidget* window = screen->WindowOf(table->form);
+    EXPECT_NE(window, nullptr);
+    if (!window) return nullptr;
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+    return window;
+  }
+
+  QWidget* W(vb::Control* c) { return screen->WidgetOf(*c); }
+  template <class T>
+  T* As(vb::Control* c) {
+    return qobject_cast<T*>(W(c));
+  }
+
+  static QTemporaryDir* pictures_;
+  std::unique_ptr<front::QtHost> host;
+  std::unique_ptr<sample::SampleForm> table;
+  std::unique_ptr<front::Front> screen;
+  std::vector<std::string> faults;
+};
+
+QTemporaryDir* FrontTest::pictures_ = nullptr;
+
+// Serves Qt events until `done` holds or `ms` pass.
+template <class F>
+bool WaitFor(F done, int ms = 2000) {
+  return QTest::qWaitFor(done, ms);
+}
+
+TEST_F(FrontTest, EachControlGetsItsWidgetAtItsPlace) {
+  QWidget* window = Show();
+  ASSERT_NE(window, nullptr);
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("PokerZEVA - Amostra"));
+  // 7500 x 5400 twips with the old window's frame taken off.
+  EXPECT_EQ(window->size(), QSize(492, 326));
+
+  struct Case {
+    vb::Control* control;
+    const char* widget_class;
+    QRect geometry;
+    const char* accessible;
+  };
+  const Case cases[] = {
+      {table->felt, "front::FrameWidget", {0, 0, 492, 184}, nullptr},
+      {table->hand_label, "QLabel", {12, 9, 100, 19}, "mão 1"},
+      {table->chip_place, "front::PictureWidget", {200, 8, 41, 41}, "Ficha de 5"},
+      {table->tiny_chip, "front::PictureWidget", {280, 20, 16, 6}, nullptr},
+      {table->toolbar, "front::ToolbarWidget", {0, 72, 492, 106}, nullptr},
+      {table->pago, "QPushButton", {3, 3, 85, 15}, "P A G O"},
+      {table->acabei, "QPushButton", {92, 3, 67, 15}, "Acabei"},
+      {table->erro, "QPushButton", {253, 3, 67, 15}, "Erro"},
+      {table->name_box, "QLineEdit", {29, 228, 200, 20}, nullptr},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.control->Id());
+    QWidget* w = W(c.control);
+    ASSERT_NE(w, nullptr);
+    EXPECT_TRUE(w->inherits(c.widget_class)) << w->metaObject()->className();
+    EXPECT_EQ(w->geometry(), c.geometry);
+    EXPECT_TRUE(w->isVisible());
+    if (c.accessible) {
+      EXPECT_EQ(w->accessibleName(), QString::fromUtf8(c.accessible));
+    }
+  }
+  EXPECT_EQ(As<QPushButton>(table->acabei)->text(), QStringLiteral("&Acabei"));
+  EXPECT_EQ(As<QLineEdit>(table->name_box)->text(), QStringLiteral("João"));
+}
+
+TEST_F(FrontTest, ToolbarButtonsStandWhereTheTableExpectsThem) {
+  Show();
+  // The card strip: a narrow gap, a card, a gap between cards, a card.
+  ASSERT_NE(screen->ButtonOf(*table->toolbar, 4), nullptr);
+  EXPECT_TRUE(screen->ButtonOf(*table->toolbar, 1)->isHidden());
+  EXPECT_EQ(screen->ButtonOf(*table->toolbar, 2)->geometry(), QRect(2, 0, 78, 103));
+  EXPECT_EQ(screen->ButtonOf(*table->toolbar, 4)->geometry(), QRect(93, 0, 78, 103));
+  EXPECT_EQ(screen->ButtonOf(*table->toolbar, 2)->accessibleName(), QStringLiteral("AC"));
+
+  // A stack strip: each pile under its chip place, at 600 + 1920 i twips.
+  vb::Form stack("FrmPilhas");
+  vb::ImageList& potes = stack.AddImageList("ImageListPotes");
+  for (const char* key : {"F01_00", "F05_03", "F10_00", "F50_00"}) potes.Add("potes/F05_03", key);
+  vb::Control& bar = stack.Add(vb::Kind::Toolbar, "ToolbarPlayerCoins");
+  bar.Move(0, 0, 11610, 705);
+  bar.images = &potes;
+  for (const char* key : {"F01", "F05", "F10", "F50"}) {
+    bar.AddButton();
+    bar.AddButton(key);
+  }
+  stack.Width = 12000;
+  stack.Height = 2000;
+  Engine::Get().Show(stack);
+  bar.Button("F05").SetImage("F05_03");
+  for (int i = 0; i < 4; ++i) {
+    auto* pile = screen->ButtonOf(bar, 2 * (i + 1));
+    ASSERT_NE(pile, nullptr);
+    EXPECT_EQ(pile->geometry(), QRect(40 + 128 * i, 0, 88, 44)) << i;
+  }
+  EXPECT_EQ(screen->ButtonOf(bar, 4)->accessibleName(), QStringLiteral("3 fichas de 5"));
+  EXPECT_EQ(screen->ButtonOf(bar, 2)->accessibleName(), QStringLiteral("F01"));
+  Engine::Get().Forget(stack);
+}
+
+TEST_F(FrontTest, ClicksThroughQtRunTheGamesHandlers) {
+  Show();
+  QTest::mouseClick(W(table->acabei), Qt::LeftButton);
+  EXPECT_EQ(table->acabei_clicks, 1);
+  EXPECT_EQ(As<QLabel>(table->hand_label)->text(), QStringLiteral("mão 2"));
+  As<QAbstractButton>(table->pago)->click();
+  EXPECT_EQ(table->pago_clicks, 1);
+
+  // A picture: press and release on it is its click, and it takes the game's focus.
+  QTest::mouseClick(W(table->chip_place), Qt::LeftButton);
+  EXPECT_EQ(table->chips, 1);
+  EXPECT_EQ(table->form.ActiveControl(), table->chip_place);
+  EXPECT_EQ(As<QLabel>(table->chips_label)->text(), QStringLiteral("1 Fichas"));
+  // The label on the chip place has no handler of its own: the click goes to the place.
+  QWidget* pot = W(table->form.Find("LabelPlayerFichasPOT", 1));
+  QTest::mouseClick(pot, Qt::LeftButton);
+  EXPECT_EQ(table->chips, 2);
+  // A press that slides off before the release is no click.
+  QTest::mousePress(W(table->chip_place), Qt::LeftButton);
+  QTest::mouseRelease(W(table->chip_place), Qt::LeftButton, {}, QPoint(60, 60));
+  EXPECT_EQ(table->chips, 2);
+
+  // A toolbar button: its ButtonClick with its number; Value 1 is the pressed look.
+  front::ToolbarButtonWidget* card = screen->ButtonOf(*table->toolbar, 4);
+  QTest::mouseClick(card, Qt::LeftButton);
+  EXPECT_EQ(table->button_clicks, 1);
+  EXPECT_EQ(table->last_button, 4);
+  EXPECT_EQ(table->toolbar->Button(4).Value(), 1);
+  EXPECT_TRUE(faults.empty());
+}
+
+TEST_F(FrontTest, AltAndTheUnderlinedLetterPressTheButton) {
+  QWidget* window = Show();
+  QTest::keyClick(window, Qt::Key_A, Qt::AltModifier);
+  EXPECT_TRUE(WaitFor([&] { return table->acabei_clicks == 1; }));
+  QTest::keyClick(window, Qt::Key_P, Qt::AltModifier);
+  EXPECT_TRUE(WaitFor([&] { return table->pago_clicks == 1; }));
+  // A hidden bar's letters are dead.
+  table->bar->Visible = false;
+  QTest::keyClick(window, Qt::Key_A, Qt::AltModifier);
+  QTest::qWait(250);
+  EXPECT_EQ(table->acabei_clicks, 1);
+}
+
+TEST_F(FrontTest, ChangesInTheGameReachTheWidgets) {
+  Show();
+  auto* acabei = As<QPushButton>(table->acabei);
+  table->acabei->Caption = "&Mais UMA";
+  EXPECT_EQ(acabei->text(), QStringLiteral("&Mais UMA"));
+  EXPECT_EQ(acabei->accessibleName(), QStringLiteral("Mais UMA"));
+  table->hand_label->Caption = "Dois\r\npares";
+  EXPECT_EQ(As<QLabel>(table->hand_label)->text(), QStringLiteral("Dois\npares"));
+
+  table->acabei->Enabled = false;
+  EXPECT_FALSE(acabei->isEnabled());
+  QTest::mouseClick(acabei, Qt::LeftButton);
+  EXPECT_EQ(table->acabei_clicks, 0);
+  table->acabei->Enabled = true;
+  table->bar->Enabled = false;  // a disabled frame disables what it holds
+  EXPECT_FALSE(acabei->isEnabled());
+  table->bar->Enabled = true;
+
+  table->chip_place->Visible = false;
+  EXPECT_TRUE(W(table->chip_place)->isHidden());
+  table->chip_place->Visible = true;
+  table->chip_place->Move(600, 150, 615, 615);
+  EXPECT_EQ(W(table->chip_place)->geometry(), QRect(40, 10, 41, 41));
+  table->tiny_chip->Picture = "extras/Ficha5";
+  EXPECT_EQ(W(table->tiny_chip)->accessibleName(), QStringLiteral("Ficha5"));
+
+  table->toolbar->Button(2).SetEnabled(false);
+  EXPECT_FALSE(screen->ButtonOf(*table->toolbar, 2)->isEnabled());
+  table->toolbar->Button(2).SetImage("KP");
+  EXPECT_EQ(screen->ButtonOf(*table->toolbar, 2)->accessibleName(), QStringLiteral("KP"));
+
+  table->name_box->Text = "Maria";
+  EXPECT_EQ(As<QLineEdit>(table->name_box)->text(), QStringLiteral("Maria"));
+  QTest::keyClicks(W(table->name_box), QStringLiteral("zinha"));
+  QKeyEvent accented(QEvent::KeyPress, 0, Qt::NoModifier, QStringLiteral("ç"));
+  QApplication::sendEvent(W(table->name_box), &accented);
+  EXPECT_EQ(table->name_box->Text.get(), "Mariazinhaç");
+
+  table->form.Caption = "Outra mesa";
+  EXPECT_EQ(screen->WindowOf(table->form)->windowTitle(), QStringLiteral("Outra mesa"));
+}
+
+TEST_F(FrontTest, TheGameOwnsTheFocusAndTheKeys) {
+  QWidget* window = Show();
+  table->pago->SetFocus();
+  EXPECT_TRUE(W(table->pago)->hasFocus());
+
+  struct Step {
+    Qt::Key key;
+    Qt::KeyboardModifiers mods;
+    vb::Control* focus;
+  };
+  const Step steps[] = {
+      {Qt::Key_Tab, Qt::NoModifier, table->acabei},
+      {Qt::Key_Tab, Qt::NoModifier, table->esperar},
+      {Qt::Key_Backtab, Qt::ShiftModifier, table->acabei},
+      {Qt::Key_Backtab, Qt::ShiftModifier, table->pago},
+      {Qt::Key_Backtab, Qt::ShiftModifier, table->chip_place},
+  };
+  for (const Step& s : steps) {
+    QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : window, s.key,
+                    s.mods);
+    EXPECT_EQ(table->form.ActiveControl(), s.focus) << s.focus->Id();
+    EXPECT_TRUE(W(s.focus)->hasFocus()) << s.focus->Id();
+  }
+  // Space and Enter on a focused picture are its key press; on a button, its click.
+  table->acabei->SetFocus();
+  QTest::keyClick(W(table->acabei), Qt::Key_Space);
+  QTest::keyClick(W(table->acabei), Qt::Key_Return);
+  EXPECT_EQ(table->acabei_clicks, 2);
+  int pressed = 0;
+  table->chip_place->KeyPress = [&](int& ascii) { pressed = ascii; };
+  table->chip_place->SetFocus();
+  QTest::keyClick(W(table->chip_place), Qt::Key_Space);
+  EXPECT_EQ(pressed, 32);
+  int down = 0;
+  table->chip_place->KeyDown = [&](int code, int) { down = code; };
+  QTest::keyClick(W(table->chip_place), Qt::Key_Left);
+  EXPECT_EQ(down, 37);
+  // Disabling the focused control moves the game's focus on, and Qt's with it.
+  table->chip_place->Enabled = false;
+  EXPECT_EQ(table->form.ActiveControl(), table->pago);
+  EXPECT_TRUE(W(table->pago)->hasFocus());
+}
+
+TEST_F(FrontTest, AWaitingHandlerServesTimersAndClicksAndReturns) {
+  Show();
+  std::vector<std::string> order;
+  table->acabei->Click = [&] {
+    order.push_back(table->waits_done ? "acabei after" : "acabei inside");
+  };
+  // A click while the wait runs: it is served inside the waiting handler.
+  QTimer::singleShot(120, [&] { As<QAbstractButton>(table->acabei)->click(); });
+  QElapsedTimer clock;
+  clock.start();
+  As<QAbstractButton>(table->esperar)->click();
+  const qint64 took = clock.elapsed();
+  EXPECT_EQ(table->waits_done, 1);
+  EXPECT_EQ(table->ticks, 3);
+  EXPECT_GE(took, 290);
+  EXPECT_LT(took, 1500);
+  EXPECT_EQ(order, std::vector<std::string>{"acabei inside"});
+  EXPECT_EQ(As<QLabel>(table->chips_label)->text(), QStringLiteral("Pronto"));
+  EXPECT_TRUE(W(table->esperar)->isEnabled());
+  EXPECT_EQ(Engine::Get().NextTimerDue(), -1);
+}
+
+TEST_F(FrontTest, AWaitSleepsInsteadOfSpinning) {
+  Show();
+  table->timer->Interval = 100;
+  table->timer->Enabled = true;
+  auto cpu = [] {
+    rusage use{};
+    getrusage(RUSAGE_SELF, &use);
+    return (use.ru_utime.tv_sec + use.ru_stime.tv_sec) * 1000.0 +
+           (use.ru_utime.tv_usec + use.ru_stime.tv_usec) / 1000.0;
+  };
+  const double before = cpu();
+  const std::int64_t end = host->Now() + 1000;
+  front::Guarded([&] {
+    while (host->Now() < end) vb::DoEvents();
+  });
+  const double used = cpu() - before;
+  EXPECT_GE(table->ticks, 8);
+  EXPECT_LE(table->ticks, 11);
+  // A spinning loop would use the whole second.
+  EXPECT_LT(used, 100.0) << used << " ms of CPU in one second of waiting";
+}
+
+TEST_F(FrontTest, ARunTimeErrorIsCaughtAndNothingAfterItRuns) {
+  Show();
+  As<QAbstractButton>(table->erro)->click();
+  ASSERT_EQ(faults.size(), 1u);
+  EXPECT_EQ(faults[0], "Erro em tempo de execução '35601':\n\nElemento não encontrado");
+  EXPECT_EQ(table->after_fault, 0);
+  EXPECT_TRUE(front::Faulted());
+  // The game is dead: no more clicks, no more ticks.
+  As<QAbstractButton>(table->acabei)->click();
+  EXPECT_EQ(table->acabei_clicks, 0);
+  table->timer->Interval = 50;
+  table->timer->Enabled = true;
+  QTest::qWait(200);
+  EXPECT_EQ(table->ticks, 0);
+
+  // Errors that are not the runtime's are reported too, under the runtime's catch-all number.
+  front::ClearFault();
+  EXPECT_FALSE(front::Guarded([] { throw std::out_of_range("vector"); }));
+  ASSERT_EQ(faults.size(), 2u);
+  EXPECT_EQ(faults[1], "Erro em tempo de execução '51':\n\nErro interno (vector)");
+}
+
+TEST_F(FrontTest, RightClickPopsTheMenuAndTheChosenEntryRuns) {
+  Show();
+  QStringList seen;
+  QTimer::singleShot(150, [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) return;
+    for (QAction* a : menu->actions())
+      seen << (a->isSeparator()
+                   ? QStringLiteral("-")
+                   : a->text() + (a->isEnabled() ? QString() : QStringLiteral(" (x)")));
+    for (QAction* a : menu->actions())
+      if (a->text() == QStringLiteral("&Ver cartas")) a->trigger();
+    menu->close();
+  });
+  QTest::mouseClick(W(table->felt), Qt::RightButton, {}, QPoint(400, 40));
+  EXPECT_EQ(table->right_clicks, 1);
+  EXPECT_EQ(seen, (QStringList{QStringLiteral("&Nova mão"), QStringLiteral("-"),
+                               QStringLiteral("&Ver cartas"), QStringLiteral("&Carregar (x)")}));
+  EXPECT_EQ(table->last_menu, "Ver");
+  EXPECT_TRUE(table->form.Find("MnuVerCartas")->Checked);
+  // A right click on a label without handlers reaches the felt beneath it.
+  QTimer::singleShot(150, [] {
+    if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+  });
+  QTest::mouseClick(W(table->hand_label), Qt::RightButton);
+  EXPECT_EQ(table->right_clicks, 2);
+}
+
+TEST_F(FrontTest, ScreenshotOfTheSampleTable) {
+  QWidget* window = Show();
+  table->toolbar->Button(2).SetEnabled(false);  // a marked card looks greyed
+  table->toolbar->Button(4).SetValue(1);
+  table->pago->SetFocus();
+  QTest::qWait(50);
+  const QImage shot = window->grab().toImage();
+  const QString path = QStringLiteral(POKERZEVA_BINARY_DIR "/front_sample.png");
+  ASSERT_TRUE(shot.save(path));
+  std::printf("screenshot: %s\n", qPrintable(path));
+  EXPECT_EQ(shot.pixelColor(5, 60), QColor(0x1A, 0x68, 0x02));  // the felt
+  // The card KP, centred in its button at (93, 72) of the felt, sunk by one pixel: white face.
+  EXPECT_EQ(shot.pixelColor(93 + 3 + 1 + 8, 72 + 3 + 1 + 8), QColor(Qt::white));
+  // The tiny chip is cut to its 16 x 6 box: the felt shows just below it.
+  EXPECT_EQ(shot.pixelColor(288, 27), QColor(0x1A, 0x68, 0x02));
+  EXPECT_NE(shot.pixelColor(288, 24), QColor(0x1A, 0x68, 0x02));
+}
+
+TEST(FrontPictures, DenseScreensGetTheDoubleSizedPicture) {
+  QTemporaryDir dir;
+  sample::WriteSampleImages(dir.path());
+  front::SetImageFolder(dir.path());
+  const QPixmap one = front::Picture("barajas/AC", 1.0);
+  const QPixmap two = front::Picture("barajas/AC", 2.0);
+  EXPECT_EQ(one.size(), QSize(71, 96));
+  EXPECT_EQ(two.size(), QSize(142, 192));
+  EXPECT_EQ(two.devicePixelRatio(), 2.0);
+  EXPECT_EQ(front::PictureSize("barajas/AC"), QSize(71, 96));
+  EXPECT_TRUE(front::Picture("barajas/ZZ", 1.0).isNull());
+  EXPECT_TRUE(front::Picture("", 2.0).isNull());
+  // Without a 2x file the plain one serves.
+  QFile::remove(dir.path() + QStringLiteral("/extras/Ficha1@2x.png"));
+  front::SetImageFolder(dir.path());
+  EXPECT_EQ(front::Picture("extras/Ficha1", 2.0).size(), QSize(32, 32));
+}
+
+TEST(FrontNames, AcceleratorsAndPilesReadAsWords) {
+  const std::pair<const char*, const char*> captions[] = {
+      {"&Acabei", "Acabei"},           {"&P A G O", "P A G O"}, {"E&rro", "Erro"},
+      {"Rock && Roll", "Rock & Roll"}, {"fim&", "fim&"},        {"Aposto &TUDO", "Aposto TUDO"},
+  };
+  for (const auto& [caption, name] : captions)
+    EXPECT_EQ(front::WithoutAccelerator(caption), QString::fromUtf8(name)) << caption;
+
+  vb::Form f("FrmNomes");
+  vb::ImageList& potes = f.AddImageList("ImageListPotes");
+  vb::Control& bar = f.Add(vb::Kind::Toolbar, "ToolbarPokerCoins");
+  bar.images = &potes;
+  const std::pair<const char*, const char*> piles[] = {{"F05_12", "12 fichas de 5"},
+                                                       {"F01_01", "1 ficha de 1"},
+                                                       {"F50_00", "Sem fichas de 50"},
+                                                       {"DORSO", "DORSO"}};
+  for (const auto& [key, name] : piles) {
+    potes.Add("potes/x", key);
+    bar.AddButton().SetImage(key);
+    EXPECT_EQ(front::ButtonName(bar, *bar.Buttons().back()), QString::fromUtf8(name)) << key;
+  }
+}
+
+// --- the ways the program ends: each runs in a process of its own -------------------------------
+
+using FrontEndTest = FrontTest;
+
+TEST_F(FrontEndTest, ClosingTheMainWindowUnloadsAndEndsWithStatusZero) {
+  EXPECT_EXIT(
+      {
+        table->form.Unload = [](int&) { std::fprintf(stderr, "unload ran\n"); };
+        QWidget* window = Show();
+        window->close();
+        std::fprintf(stderr, "still running\n");
+        std::_Exit(5);
+      },
+      testing::ExitedWithCode(0), "unload ran");
+}
+
+TEST_F(FrontEndTest, EndStopsAtOnceWithoutTheUnload) {
+  EXPECT_EXIT(
+      {
+        table->form.Unload = [](int&) { std::_Exit(3); };
+        Show();
+        table->acabei->Click = [] { Engine::Get().End(); };
+        As<QAbstractButton>(table->acabei)->click();
+        std::_Exit(4);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
+TEST_F(FrontEndTest, AHungWindowIgnoresInputAndClosesWithoutTheUnload) {
+  EXPECT_EXIT(
+      {
+        table->form.Unload = [](int&) { std::_Exit(3); };
+        QWidget* window = Show();
+        QTimer::singleShot(100, [&] {
+          As<QAbstractButton>(table->pago)->click();
+          QTest::keyClick(window, Qt::Key_Tab);
+          std::fprintf(stderr, "title: %s; clicks %d\n", qPrintable(window->windowTitle()),
+                       table->pago_clicks);
+          window->close();
+        });
+        table->acabei->Click = [] { Engine::Get().Hang(); };
+        As<QAbstractButton>(table->acabei)->click();
+        std::_Exit(4);
+      },
+      testing::ExitedWithCode(0),
+      "title: PokerZEVA - Amostra \\(Não está respondendo\\); clicks 0");
+}
+
+TEST_F(FrontEndTest, AFaultShowsTheOldReportAndEndsWithStatusOne) {
+  EXPECT_EXIT(
+      {
+        front::SetFaultReporter(nullptr);
+        table->form.Unload = [](int&) { std::_Exit(3); };
+        Show();
+        QTimer::singleShot(200, [] {
+          auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+          if (!box) return;
+          std::fprintf(stderr, "box: %s | %s\n", qPrintable(box->windowTitle()),
+                       qPrintable(box->text().replace(QLatin1Char('\n'), QLatin1Char('/'))));
+          box->accept();
+        });
+        As<QAbstractButton>(table->erro)->click();
+        std::_Exit(4);
+      },
+      testing::ExitedWithCode(1),
+      "box: PokerZEVA \\| Erro em tempo de execução '35601'://Elemento não encontrado");
+}
+
+}  // namespace
