@@ -1,7 +1,6 @@
 // PokerZEVA on the desktop: the Qt application, the event loop behind the game's waits, the
 // settings file, the program's folder and the random state, and then the game itself.
 #include <QApplication>
-#include <QLabel>
 #include <QStyleFactory>
 
 #include "core/start.h"
@@ -12,9 +11,6 @@
 #include "platform/app_path.h"
 #include "platform/rnd.h"
 #include "platform/settings.h"
-
-// Until the game's start is written, the program opens an empty window instead.
-void IniciarJogo() __attribute__((weak));
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -30,14 +26,7 @@ int main(int argc, char** argv) {
   vb::SetAppPath(QCoreApplication::applicationDirPath().toStdString());
   vb::SetRndState(vb::StartStateFromEnvironment());
 
-  if (IniciarJogo) {
-    front::Guarded([] { IniciarJogo(); });
-  } else {
-    auto* empty = new QLabel(QStringLiteral("PokerZEVA"));
-    empty->setWindowTitle(QStringLiteral("PokerZEVA"));
-    empty->resize(320, 120);
-    empty->show();
-    QApplication::setQuitOnLastWindowClosed(true);
-  }
+  // The first hand plays up to the player's turn; from then on the player's input drives it.
+  front::Guarded([] { IniciarJogo(); });
   return QApplication::exec();
 }
