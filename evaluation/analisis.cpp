@@ -310,14 +310,15 @@ std::int32_t PontosDoJogo(std::string_view Jogo, std::string_view Valores) {
   // The score is the text base, values of the code, sum, read as a number. When the three are
   // three, two and two plain digits, as they are for every hand of the game, that is the same
   // as setting them side by side.
-  const int base_lo = classe == kClasseP2 ? 200 : classe == kClasseP1 ? 100 : 0;
-  if (base >= base_lo && base <= base_lo + 99 && IsTwoDigits(valores_do_jogo) && soma >= 10 &&
-      soma <= 99)
+  const bool com_par = classe == kClasseP2 || classe == kClasseP1;
+  const int base_lo = classe == kClasseP2 ? 200 : 100;
+  if ((!com_par || (base >= base_lo && base <= base_lo + 99)) && IsTwoDigits(valores_do_jogo) &&
+      soma >= 10 && soma <= 99)
     return base * 10000 + valor1 * 100 + soma;
 
   char texto[48];
   int n = 0;
-  if (classe == kClasseP2 || classe == kClasseP1) {
+  if (com_par) {
     texto[n++] = classe == kClasseP2 ? '2' : '1';
     n += WriteInt(base - base_lo, 2, texto + n);
   } else {

@@ -113,7 +113,10 @@ TEST_F(AnalisisTest, PontosDoJogoTextOfBaseValuesAndSum) {
       {"PI12", "12C12D12P05C02D", 4001243},
       {"CO13", "13C11C09C05C02C", 6001340},
       {"FU02", "14C14D02C02D02P", 5000234},
-      {"P114", "", 114140},  // no values: the sum is 0, written as one digit
+      {"P114", "", 114140},              // no values: the sum is 0, written as one digit
+      {"ER14", "01C", 800141},           // a one-digit sum stays one digit
+      {"NN 9", "14C10D08P07T06C", 945},  // read as Val reads it: blanks are skipped
+      {"P2", "", 2000},                  // no pair values: "2", "00", nothing, "0"
       {"XX14", "14C10D08P07T06C", 1445},
       {"", "", 0},
   };
