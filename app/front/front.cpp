@@ -273,19 +273,22 @@ void Front::ApplyAll(vb::Control& c) {
   for (vb::Prop p : {vb::Prop::Caption, vb::Prop::Geometry, vb::Prop::Enabled, vb::Prop::Picture,
                      vb::Prop::Text, vb::Prop::Visible})
     Apply(c, p, 0);
-  if (auto* bar = qobject_cast<ToolbarWidget*>(widgets_.value(&c))) {
-    bar->SyncButtons([this, &c](ToolbarButtonWidget* b) {
-      controls_[b] = &c;
-      connect(b, &QAbstractButton::clicked, this, [this, &c, b] {
-        vb::Input in = InputOn(vb::Input::Type::ButtonClick, c);
-        in.button = b->index();
-        Deliver(in);
-      });
-    });
-    bar->Layout();
-    bar->Refresh(0);
-  }
+  if (auto* bar = qobject_cast<ToolbarWidget*>(widgets_.value(&c))) SyncButtons(*bar);
   if (c.form().ActiveControl() == &c) Apply(c, vb::Prop::Focus, 0);
+}
+
+void Front::SyncButtons(ToolbarWidget& bar) {
+  vb::Control& c = bar.control();
+  bar.SyncButtons([this, &c](ToolbarButtonWidget* b) {
+    controls_[b] = &c;
+    connect(b, &QAbstractButton::clicked, this, [this, &c, b] {
+      vb::Input in = InputOn(vb::Input::Type::ButtonClick, c);
+      in.button = b->index();
+      Deliver(in);
+    });
+  });
+  bar.Layout();
+  bar.Refresh(0);
 }
 
 void Front::Apply(vb::Control& c, vb::Prop prop, int sub) {
@@ -367,8 +370,12 @@ void Front::Apply(vb::Control& c, vb::Prop prop, int sub) {
     case vb::Prop::ButtonValue:
     case vb::Prop::ButtonTag:
       if (auto* bar = qobject_cast<ToolbarWidget*>(w)) {
-        if (prop == vb::Prop::ButtonImage) bar->Layout();
-        bar->Refresh(sub);
+        if (bar->buttons().size() < c.Buttons().size()) {
+          SyncButtons(*bar);  // buttons added since the toolbar was drawn
+        } else {
+          if (prop == vb::Prop::ButtonImage) bar->Layout();
+          bar->Refresh(sub);
+        }
       }
       break;
     default:

@@ -45,6 +45,7 @@ class Front : public QObject, public vb::Listener {
   QWidget* Create(vb::Control& control, QWidget* parent);
   void Restack(vb::Form& form);
   void ApplyAll(vb::Control& control);
+  void SyncButtons(ToolbarWidget& bar);
   void Apply(vb::Control& control, vb::Prop prop, int sub);
   void ApplyLook(vb::Control& control, QWidget* widget);
   void ShowOrHide(vb::Form& form);

@@ -64,8 +64,10 @@ FrameWidget::FrameWidget(vb::Control& control, QWidget* parent)
     : QWidget(parent), control_(control) {}
 
 void FrameWidget::paintEvent(QPaintEvent*) {
+  // A frame given no colour of its own lets its container show through (the speech balloon
+  // stands on the felt).
   QPainter p(this);
-  p.fillRect(rect(), control_.HasBackColor ? ColorOf(control_.BackColor) : palette().window());
+  if (control_.HasBackColor) p.fillRect(rect(), ColorOf(control_.BackColor));
   const QString caption = QString::fromStdString(control_.Caption);
   if (caption.isEmpty()) return;
   const QFontMetrics fm(font());
