@@ -37,7 +37,7 @@ TEST(QtSettingsStore, ABadFileReadsAsEmptyAndIsWrittenAfresh) {
     QByteArray content;  // empty: a folder stands where the file should be
   };
   const Case cases[] = {
-      {"garbage", QByteArray("\x00\xff\xfe[[[=\n\x01\x02 Seed", 18)},
+      {"garbage", QByteArray("\x00\xff\xfe[[[=\n\x01\x02 Seed", 15)},
       {"half a line", QByteArray("[Ramdomize\nSeed")},
       {"a folder", QByteArray()},
   };
