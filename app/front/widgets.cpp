@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <cmath>
+#include <vector>
 
 #include "front/images.h"
 #include "front/names.h"
@@ -171,6 +172,22 @@ void ToolbarWidget::Layout() {
     w->setGeometry(x, 0, width, image.height() + 7);
     w->setVisible(!gap);
     x += width;
+  }
+  // A strip with more places than fit (the whole deck laid out) overlaps them like a spread
+  // deck, each card showing its left edge and the last one whole.
+  const int available = control_.Width / 15;
+  if (x > available && !buttons_.empty()) {
+    std::vector<ToolbarButtonWidget*> shown;
+    for (ToolbarButtonWidget* w : buttons_)
+      if (w->isVisibleTo(this)) shown.push_back(w);
+    if (shown.size() > 1) {
+      const int width = shown.front()->width();
+      const double step = double(available - width) / double(shown.size() - 1);
+      for (std::size_t i = 0; i < shown.size(); ++i) {
+        shown[i]->move(static_cast<int>(i * step), 0);
+        shown[i]->raise();
+      }
+    }
   }
 }
 
