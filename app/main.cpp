@@ -8,6 +8,7 @@
 #include "front/guard.h"
 #include "front/qt_host.h"
 #include "front/qt_settings.h"
+#include "front/sound_player.h"
 #include "platform/app_path.h"
 #include "platform/rnd.h"
 #include "platform/settings.h"
@@ -23,6 +24,7 @@ int main(int argc, char** argv) {
   vb::InstallSettings(&settings);
   front::QtHost host;
   front::Front screen;
+  front::SoundPlayer sound(front::SoundPlayer::kGameSink);
   vb::SetAppPath(QCoreApplication::applicationDirPath().toStdString());
   vb::SetRndState(vb::StartStateFromEnvironment());
 
