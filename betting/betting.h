@@ -14,6 +14,9 @@ void CmdConfrontar_Click();
 // The opponent's turns and the showdown.
 void VezPokerAbertura();
 void VezPokerFinal();
+// Her answer once the turn has passed the all-committed check: the cases of the final round by
+// the table alone (tests reach the cases that the check keeps play from reaching).
+void ResponderFinal();
 void ConfrontarJogos();
 
 // Steps shared by the commands and both rounds.

@@ -56,11 +56,19 @@ void FecharMelodiaAposta() {
 void VezPokerFinal() {
   if (!(Fase >= 30 && Fase < 40)) return;
   if (SemMaisApostas()) {
+    // Everything is committed: straight to the showdown, without a word.
     FecharPlayer();
     EntrarConfronto();
     return;
   }
+  ResponderFinal();
+}
 
+// Her answer once the round is known to go on, read from the table alone. It stands apart from
+// VezPokerFinal, which always asks first whether any more betting is possible: that question takes
+// every table where he is all in and short (A2) or she has no chips left against his raise (B2),
+// so those two answers can only be reached by calling this directly.
+void ResponderFinal() {
   if (MesaPote < MesaApostas) {
     // A: the player is below her.
     MaoPlayer = true;

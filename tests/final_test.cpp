@@ -1,0 +1,549 @@
+// The final round: her answer to each turn of the player after the exchange, in every situation of
+// the table, and its ends (the showdown opened, a side giving up, both passing).
+#include <algorithm>
+#include <array>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "betting/betting.h"
+#include "chips/chips.h"
+#include "core/deck.h"
+#include "core/hand_cycle.h"
+#include "game_fixture.h"
+#include "opponent/leyendas.h"
+#include "opponent/troca.h"
+
+// Her answer past the first test of VezPokerFinal (defined beside it).
+
+namespace {
+
+// A drawn line of speech takes one Rnd; this one picks the first line of any key.
+constexpr float L = 0.01f;
+float Mood(int m) {
+  return (m + 0.5f) / 9;
+}
+float Band(int a, int b, int x) {
+  return (x - a + 0.5f) / (b - a + 1);
+}
+
+using Hand5 = std::array<const char*, 5>;
+constexpr Hand5 kNada = {"KC", "JD", "9P", "7T", "3C"};      // nothing, king high
+constexpr Hand5 kParCinco = {"5C", "5D", "QP", "8T", "2C"};  // a pair of fives
+constexpr Hand5 kTrio = {"8C", "8D", "8P", "KT", "2D"};      // three eights
+constexpr Hand5 kCor = {"AC", "JC", "9C", "6C", "4C"};       // a flush
+
+class FinalRound : public GameTest {
+ protected:
+  // One side's stack built anew with `n` chips, spread over the four piles as at the start.
+  void Pilha(bool poker, int n, bool espalhar = true) {
+    vb::Control& bar = poker ? F().ToolbarPokerCoins : F().ToolbarPlayerCoins;
+    for (const Denominacao& d : kDenominacoes) {
+      bar.Button(d.botao).SetImage(ChavePilha(d, 0));
+      bar.Button(d.botao).SetEnabled(n > 0);
+    }
+    (poker ? FichasPoker : FichasPlayer) = 0;
+    PilhaDeFichas(poker, n);
+    if (espalhar && n > 0) TrocarFichas(poker, true);
+  }
+  // A stake laid on the table as chips: a stack of just those chips, moved whole.
+  void Aposta(bool poker, int n) {
+    Pilha(poker, n, false);
+    MoverFichas(poker, n, true);
+  }
+
+  // The table as the final round finds it after the exchange: her chips and his in front of
+  // them, the opening stakes lying on the table as chips, the centre pot, both hands; Fase 30 and
+  // no stake of this round yet.
+  void Mesa(int poker, int player, int apostas, int pote, int pingo = 1, const Hand5& dela = kNada,
+            const Hand5& dele = kParCinco) {
+    IniciarJogo();
+    MoverFichas(true, 0, false);
+    MoverFichas(false, 0, false);
+    MesaApostas = 0;
+    MesaPote = 0;
+    MesaPingo = pingo;
+    FichasNaMesa();
+    Aposta(true, apostas);
+    Aposta(false, pote);
+    Pilha(true, poker);
+    Pilha(false, player);
+    AtualizarLabels();
+    for (int i = 1; i <= 5; ++i) {
+      CartasPoker[i] = dela[i - 1];
+      CartasPlayer[i] = dele[i - 1];
+    }
+    OrdenarCartas(true);
+    OrdenarCartas(false);
+    ApostaPoker = TotalApostaPoker = ApostaPlayer = TotalApostaPlayer = 0;
+    CartasTrocaPlayer = 0;
+    Fase = 30;
+    Leyenda(true, "Clean", 0);
+    Leyenda(false, "Clean", 0);
+    vb::ClearMciSent();
+  }
+
+  // She has bet `n` in this round and holds the hand; the player has the turn.
+  void ElaApostou(int n) {
+    MoverFichas(true, n, true);
+    ApostaPoker = n;
+    MaoPlayer = true;
+    AtualizarLabels();
+    PrepararPlayer();
+  }
+
+  // Her first line and second line, or his.
+  std::string Fala(bool poker) {
+    vb::ControlArray<>& l = poker ? F().LabelPokerCaption : F().LabelPlayerCaption;
+    return Caption(l(1)) + "|" + Caption(l(2));
+  }
+  int Visiveis(vb::ControlArray<>& heap) {
+    int value = 0;
+    for (int i = 0; i < heap.Count(); ++i)
+      if (heap(i).Visible) value += std::stoi(heap(i).Tag.get());
+    return value;
+  }
+  int Total() { return FichasPoker + FichasPlayer + MesaPote + MesaApostas + MesaPingo; }
+  bool Enviado(const std::string& command) {
+    const auto& sent = vb::MciSent();
+    return std::find(sent.begin(), sent.end(), command) != sent.end();
+  }
+  std::int64_t Desde(std::int64_t t0) { return host->Now() - t0; }
+};
+
+// ---------------------------------------------------------------------------------------------
+// Case C: the two are level.
+
+// She passes first, he passes: she is asked "FINAL" once more and may bet after all.
+TEST_F(FinalRound, SheIsAskedAgainAfterBothPassAndMayStillBet) {
+  Mesa(100, 100, 10, 10);
+  MaoPlayer = true;
+  // Her lead: mood 1 against a player who stood pat is a pass.
+  vb::ScriptRnd({Mood(1), L, L});
+  CmdAcabei_Click(1);
+  EXPECT_EQ(Fala(true), "Vai!,|Aposta, se quiser");
+  EXPECT_FALSE(MaoPlayer);
+  ASSERT_EQ(static_cast<int>(Fase), 30);
+  ASSERT_TRUE(F().FraApostaPlayer.Visible);
+
+  // His pass; asked again, mood 0 bets 20 to 49: 25.
+  vb::ScriptRnd({L, Mood(0), Band(20, 49, 25), L, L});
+  const auto t0 = host->Now();
+  EXPECT_TRUE(Click("CmdAcabei", 0));
+  EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
+  EXPECT_EQ(ApostaPoker, 25);
+  EXPECT_EQ(static_cast<int>(MesaApostas), 35);
+  EXPECT_EQ(FichasPoker, 75);
+  EXPECT_TRUE(MaoPlayer);
+  EXPECT_EQ(Fala(true), "Vou AAAumentar |essa, amor mais 25 Fichas");
+  EXPECT_EQ(Fala(false), "Vai!,|Cubra aposta 25 Fichas");
+  EXPECT_EQ(Desde(t0), 1500);
+  EXPECT_EQ(static_cast<int>(Fase), 30);  // his stake of this round is still 0
+  EXPECT_TRUE(F().FraApostaPlayer.Visible);
+
+  // He covers: the showdown opens.
+  EXPECT_TRUE(Click("CmdPago"));
+  EXPECT_EQ(static_cast<int>(Fase), 40);
+  EXPECT_TRUE(F().FraConfrontarJogos.Visible);
+}
+
+// A double pass leaves every chip of the hand in the centre for the next hand; in a replayed tie
+// the next hand is again a replay, with no ante.
+TEST_F(FinalRound, DoublePassMovesTheWholeTableToTheCentre) {
+  struct Row {
+    const char* name;
+    int apostas, pote, pingo;
+    bool empate;
+    int mood;  // a pass, by the row of her table that this table reads
+  };
+  const Row rows[] = {
+      {"opening chips on the table", 10, 10, 1, false, 1},
+      {"nothing but the ante", 0, 0, 3, false, 0},
+      {"a replayed tie", 10, 10, 21, true, 1},
+  };
+  for (const Row& r : rows) {
+    SCOPED_TRACE(r.name);
+    Fresh();
+    Mesa(100, 100, r.apostas, r.pote, r.pingo);
+    JogoEmpatado = r.empate;
+    EfeitosOn = true;
+    MaoPlayer = false;
+    PrepararPlayer();
+    const int total = Total();
+    const int mesa = r.apostas + r.pote + r.pingo;
+    vb::ScriptRnd({L, Mood(r.mood), L});  // his pass; asked again, she passes too
+    const auto t0 = host->Now();
+    EXPECT_TRUE(Click("CmdAcabei", 0));
+    EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
+    EXPECT_EQ(Fala(true), "|Amoor, Passo...");
+    EXPECT_EQ(static_cast<int>(Fase), 50);
+    EXPECT_EQ(Desde(t0), 3000);
+    EXPECT_EQ(static_cast<int>(MesaPingo), mesa);
+    EXPECT_EQ(MesaPote, 0);
+    EXPECT_EQ(static_cast<int>(MesaApostas), 0);
+    EXPECT_EQ(Visiveis(F().PictureCoin), mesa);
+    EXPECT_EQ(Visiveis(F().PicturePokerCoin), 0);
+    EXPECT_EQ(Visiveis(F().PicturePlayerCoin), 0);
+    EXPECT_EQ(Total(), total);
+    EXPECT_TRUE(Enviado("Play MUSICAS\\MELODIAS\\PASSOU.WAV"));
+    EXPECT_EQ(Caption(F().LabelPokerMensagem),
+              "Caraíba!, Fico Tudo na MESA, eueeh!\r\nNa Proxima Mão, Quem vai levar esse "
+              "bolão!\r\nVamos Mais Uma ?");
+    EXPECT_TRUE(F().FraMaisUma.Visible);
+    EXPECT_EQ(JogoEmpatado, r.empate);
+
+    // The next hand: the ante comes on top of the centre, except in a replay, which has none
+    // and does not count.
+    const int mao = NroMao;
+    EXPECT_TRUE(Click("CmdMaisUma"));
+    EXPECT_EQ(static_cast<int>(NroMao), r.empate ? mao : mao + 1);
+    EXPECT_EQ(static_cast<int>(MesaPingo), r.empate ? mesa : mesa + 1);
+  }
+}
+
+// His first stake exactly level with her total: the showdown at once, with his words only when
+// she holds the hand.
+TEST_F(FinalRound, FirstBetExactlyLevelGoesToTheShowdown) {
+  for (bool ela_tem_mao : {true, false}) {
+    SCOPED_TRACE(ela_tem_mao ? "she holds the hand" : "he holds the hand");
+    Fresh();
+    Mesa(100, 100, 10, 10);
+    if (ela_tem_mao) {
+      ElaApostou(10);
+    } else {
+      // She is ahead from earlier and has not bet in this round.
+      MoverFichas(true, 10, true);
+      MaoPlayer = false;
+      PrepararPlayer();
+    }
+    EXPECT_TRUE(Chip(6));
+    vb::ScriptRnd({L});  // nothing is drawn
+    const auto t0 = host->Now();
+    EXPECT_TRUE(Click("CmdAcabei", 0));
+    EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
+    EXPECT_EQ(Fala(false), ela_tem_mao ? "Pago,|Cubro a sua aposta de 10 Fichas" : "|");
+    EXPECT_EQ(static_cast<int>(Fase), 40);
+    EXPECT_EQ(Desde(t0), 0);
+    EXPECT_TRUE(F().FraConfrontarJogos.Visible);
+    EXPECT_FALSE(F().FraApostaPlayer.Visible);
+    EXPECT_EQ(static_cast<int>(MesaApostas), 20);
+    EXPECT_EQ(MesaPote, 20);
+  }
+}
+
+// The exchange ended with every chip already committed: the showdown, and she says nothing.
+TEST_F(FinalRound, AllCommittedAfterTheExchangeGoesStraightToTheShowdown) {
+  Mesa(100, 0, 30, 30);
+  MaoPlayer = true;
+  Fase = 20;
+  PokerJaTrocou = true;
+  PrepararTroca();
+  vb::ScriptRnd({L});
+  EXPECT_TRUE(Click("CmdAcabei", 1));
+  EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
+  EXPECT_EQ(static_cast<int>(Fase), 40);
+  EXPECT_TRUE(F().FraConfrontarJogos.Visible);
+  EXPECT_FALSE(F().FraPedeCartasPlayer.Visible);
+  EXPECT_EQ(Fala(true), "|");
+  EXPECT_EQ(Fala(false), "|Não Peço Cartas...");  // the exchange's own words stay
+}
+
+// ---------------------------------------------------------------------------------------------
+// Case A: the player is below her.
+
+// A pass below her stake hands him the turn back once; the next empty turn gives the table to
+// her. The toggle keeps the state the opening round left.
+TEST_F(FinalRound, PassingBelowHerStakeTwiceGivesTheTableToHer) {
+  for (bool deixado : {false, true}) {
+    SCOPED_TRACE(deixado ? "the opening left the toggle on" : "toggle off");
+    Fresh();
+    Mesa(100, 100, 10, 10);
+    PassouSemCobrir = deixado;
+    ElaApostou(20);
+    vb::ScriptRnd({L, L, L});
+    EXPECT_TRUE(Click("CmdAcabei", 0));
+    if (!deixado) {
+      EXPECT_TRUE(PassouSemCobrir);
+      EXPECT_EQ(Fala(true), "Bem, amor |eu vou apostar... mais 20 Fichas");
+      EXPECT_EQ(Fala(false), "Vai!,|Cubra aposta 20 Fichas");
+      EXPECT_EQ(static_cast<int>(Fase), 30);
+      EXPECT_TRUE(F().FraApostaPlayer.Visible);
+      EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
+      vb::ScriptRnd({L, L, L});
+      EXPECT_TRUE(Click("CmdAcabei", 0));
+    }
+    EXPECT_FALSE(PassouSemCobrir);
+    EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
+    EXPECT_EQ(static_cast<int>(Fase), 50);
+    EXPECT_EQ(FichasPoker, 80 + 30 + 10 + 1);
+    EXPECT_EQ(FichasPlayer, 100);
+    EXPECT_EQ(MesaPote + MesaApostas + MesaPingo, 0);
+    EXPECT_EQ(Fala(false), "Que pena |eu não tinha nada...");
+    EXPECT_EQ(Caption(F().LabelPokerMensagem),
+              "Pode deixar, Eu levo tudo por você, Obrigada!\r\nPeninha, Garotão...!\r\nOutra "
+              "Vez ?");
+  }
+}
+
+// He put chips in but stays below her: her words repeat what he owes, and his turn moves on to
+// the second stake level.
+TEST_F(FinalRound, BetBelowHersGetsTheTurnBack) {
+  Mesa(100, 100, 10, 10);
+  ElaApostou(30);
+  EXPECT_TRUE(Chip(6));
+  vb::ScriptRnd({L});
+  EXPECT_TRUE(Click("CmdAcabei", 0));
+  EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
+  EXPECT_EQ(Fala(true), "| 20 Fichas");  // her key has no lines: only the chips text
+  EXPECT_EQ(Fala(false), "Vai!,|Cubra aposta 20 Fichas");
+  EXPECT_TRUE(MaoPlayer);
+  EXPECT_EQ(static_cast<int>(Fase), 31);
+  EXPECT_TRUE(F().FraApostaPlayer.Visible);
+  EXPECT_EQ(static_cast<int>(MesaApostas), 40);
+  EXPECT_EQ(MesaPote, 20);
+}
+
+// He is all in and short (A2), or she has nothing left against his raise (B2): the first test
+// of VezPokerFinal always takes these tables to a silent showdown, so her own answers are
+// reached only by calling it past that test.
+TEST_F(FinalRound, AllInTablesAreTakenByTheFirstTest) {
+  struct Row {
+    const char* name;
+    int poker, player, apostas, pote;
+    int aposta_poker, aposta_player;
+    bool mao_player_depois;
+    const char* dela;
+    const char* dele;
+    std::int64_t espera;
+  };
+  const Row rows[] = {
+      // A2: her stake of the round is spoken with a key that has no lines.
+      {"he is all in and short", 100, 0, 40, 30, 15, 20, true, "| 15 Fichas", "|Aposto tudo", 0},
+      // B2: her side speaks of his stake; she moves TotalApostaPoker, which is 0.
+      {"she has nothing left", 0, 80, 15, 30, 5, 20, false, "|Aposto tudo 20 Fichas", "|", 1000},
+  };
+  for (const Row& r : rows) {
+    for (bool direto : {false, true}) {
+      SCOPED_TRACE(std::string(r.name) + (direto ? ", answered directly" : ", first test"));
+      Fresh();
+      Mesa(r.poker, r.player, r.apostas, r.pote);
+      ApostaPoker = r.aposta_poker;
+      ApostaPlayer = r.aposta_player;
+      MaoPlayer = !r.mao_player_depois;
+      Fase = 31;
+      EfeitosOn = true;
+      vb::ClearMciSent();
+      vb::ScriptRnd({L});
+      const auto t0 = host->Now();
+      if (direto) {
+        ResponderFinal();
+      } else {
+        VezPokerFinal();
+      }
+      EXPECT_EQ(static_cast<int>(Fase), 40);
+      EXPECT_TRUE(F().FraConfrontarJogos.Visible);
+      EXPECT_FALSE(F().FraApostaPlayer.Visible);
+      EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
+      EXPECT_EQ(static_cast<int>(MesaApostas), r.apostas);
+      EXPECT_EQ(MesaPote, r.pote);
+      if (!direto) {
+        EXPECT_EQ(Fala(true), "|");
+        EXPECT_EQ(Fala(false), "|");
+        EXPECT_TRUE(vb::MciSent().empty());
+        EXPECT_EQ(Desde(t0), 0);
+        continue;
+      }
+      EXPECT_EQ(MaoPlayer, r.mao_player_depois);
+      EXPECT_EQ(Caption(F().LabelPokerCaption(0)), "Poker (ZEVA)");
+      EXPECT_EQ(Fala(true), r.dela);
+      EXPECT_EQ(Fala(false), r.dele);
+      EXPECT_EQ(Desde(t0), r.espera);
+      const bool b2 = !r.mao_player_depois;
+      EXPECT_EQ(Enviado("Play MUSICAS\\MELODIAS\\APOSTA.WAV"), b2);
+      EXPECT_EQ(Enviado("Close MUSICAS\\MELODIAS\\APOSTA.WAV"), b2);
+    }
+  }
+}
+
+// ---------------------------------------------------------------------------------------------
+// Case B: the player is above her.
+
+// She passed first and he bets 10: she gives up, covers, raises, or covers with all she has and
+// is short.
+TEST_F(FinalRound, HerAnswerToHisFirstBet) {
+  struct Row {
+    const char* name;
+    Hand5 dela;
+    int poker;
+    std::vector<float> draws;  // her mood, a band, then her lines
+    int fase;
+    std::int64_t espera;
+    int apostas, pote, fichas_poker, fichas_player;
+    bool mao_player;
+    const char* fala_dela;
+    const char* fala_dele;
+  };
+  const Row rows[] = {
+      // Mood 1 against a small bet, nothing in hand: she gives up, and tells him what he won.
+      {"gives up",
+       kNada,
+       100,
+       {Mood(1), L},
+       50,
+       2000,
+       0,
+       0,
+       100,
+       90 + 31,
+       false,
+       "Nossa!, |Você e louco",
+       "|Ganhou!, então vai levar as 31 Fichas"},
+      {"covers",
+       kNada,
+       100,
+       {Mood(0), L},
+       40,
+       1500,
+       20,
+       20,
+       90,
+       90,
+       false,
+       "Vou Pagar |essa, amor de  10 Fichas",
+       "Aposto,|faço Aposta final de 10 Fichas"},
+      // A flush, mood 0: his 10 plus 10 to 19.
+      {"raises",
+       kCor,
+       100,
+       {Mood(0), Band(10, 19, 15), L, L},
+       31,
+       1500,
+       35,
+       20,
+       75,
+       90,
+       true,
+       "Vou AAAumentar |essa, amor mais 15 Fichas",
+       "Vai!,|Cubra aposta 15 Fichas"},
+      // She covers with her last 5 chips; his surplus stays on the table.
+      {"all in and short",
+       kNada,
+       5,
+       {Mood(0), L},
+       40,
+       1500,
+       15,
+       20,
+       0,
+       90,
+       false,
+       "Vou Dar |Todinhas minhas 5 Fichas",
+       "Aposto,|faço Aposta final de 10 Fichas"},
+  };
+  for (const Row& r : rows) {
+    SCOPED_TRACE(r.name);
+    Fresh();
+    Mesa(r.poker, 100, 10, 10, 1, r.dela);
+    EfeitosOn = true;
+    MaoPlayer = false;
+    PrepararPlayer();
+    EXPECT_TRUE(Chip(6));
+    const int total = Total();
+    vb::ClearMciSent();
+    vb::ScriptRnd(std::deque<float>(r.draws.begin(), r.draws.end()));
+    const auto t0 = host->Now();
+    EXPECT_TRUE(Click("CmdAcabei", 0));
+    EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
+    EXPECT_EQ(static_cast<int>(Fase), r.fase);
+    EXPECT_EQ(Desde(t0), r.espera);
+    EXPECT_EQ(static_cast<int>(MesaApostas), r.apostas);
+    EXPECT_EQ(MesaPote, r.pote);
+    EXPECT_EQ(FichasPoker, r.fichas_poker);
+    EXPECT_EQ(FichasPlayer, r.fichas_player);
+    EXPECT_EQ(Total(), total);
+    EXPECT_EQ(MaoPlayer, r.mao_player);
+    EXPECT_EQ(Fala(true), r.fala_dela);
+    EXPECT_EQ(Fala(false), r.fala_dele);
+    EXPECT_EQ(F().FraConfrontarJogos.Visible, r.fase == 40);
+    EXPECT_EQ(F().FraApostaPlayer.Visible, r.fase == 31);
+    EXPECT_EQ(F().FraMaisUma.Visible, r.fase == 50);
+    EXPECT_EQ(Enviado("Play MUSICAS\\MELODIAS\\WAIT.WAV"), r.fase == 50);
+    EXPECT_EQ(Enviado("Play MUSICAS\\MELODIAS\\ABRE.WAV"), r.fase != 50);
+    if (r.fase == 50) {
+      EXPECT_EQ(Caption(F().LabelPokerMensagem), "Põe Ser, Mão Ruim, eueeh!\r\nVamos Mais Uma ?");
+    }
+  }
+}
+
+// She had bet and he raised: she covers the difference (not her first stake again), whatever her
+// stake then is, or gives up.
+TEST_F(FinalRound, HerAnswerToHisRaise) {
+  struct Row {
+    const char* name;
+    Hand5 dele;
+    int mood;
+    bool cobre;
+  };
+  const Row rows[] = {
+      {"he has one pair", kParCinco, 0, true},
+      {"his trips against her nothing", kTrio, 0, false},
+      {"his trips, but mood 6", kTrio, 6, true},
+  };
+  for (const Row& r : rows) {
+    SCOPED_TRACE(r.name);
+    Fresh();
+    Mesa(100, 100, 10, 10, 1, kNada, r.dele);
+    ElaApostou(10);
+    EXPECT_TRUE(Chip(6));
+    EXPECT_TRUE(Chip(6));
+    EXPECT_TRUE(Chip(4));  // 25 against her 10
+    vb::ScriptRnd({Mood(r.mood), L, L});
+    const auto t0 = host->Now();
+    EXPECT_TRUE(Click("CmdAcabei", 0));
+    EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
+    EXPECT_FALSE(MaoPlayer);
+    if (r.cobre) {
+      EXPECT_EQ(Caption(F().LabelPlayerCaption(2)), "Aumento, Aposta com mais 15 Fichas");
+      EXPECT_EQ(static_cast<int>(TotalApostaPoker), 15);
+      EXPECT_EQ(static_cast<int>(MesaApostas), 35);
+      EXPECT_EQ(MesaPote, 35);
+      EXPECT_EQ(Fala(true), "Vou Pagar |essa, amor de  15 Fichas");
+      EXPECT_EQ(static_cast<int>(Fase), 40);
+      EXPECT_EQ(Desde(t0), 200 + 1000);
+      EXPECT_TRUE(F().FraConfrontarJogos.Visible);
+    } else {
+      EXPECT_EQ(static_cast<int>(Fase), 50);
+      EXPECT_EQ(Desde(t0), 200 + 2000);
+      EXPECT_EQ(FichasPlayer, 75 + 35 + 20 + 1);
+      EXPECT_EQ(Fala(false), "|Ganhou!, então vai levar as 56 Fichas");
+    }
+  }
+}
+
+// After covering his raise the showdown is open during her last wait: his click there settles
+// the hand inside her turn, before her jingle is closed.
+TEST_F(FinalRound, ShowdownClickedDuringHerLastWaitRunsInsideHerTurn) {
+  Mesa(100, 100, 10, 10);
+  EfeitosOn = true;
+  ElaApostou(10);
+  EXPECT_TRUE(Chip(6));
+  EXPECT_TRUE(Chip(6));
+  vb::ScriptRnd({Mood(0), L});
+  const auto t0 = host->Now();
+  host->QueueAt(t0 + 700, On("CmdConfrontar"));
+  vb::ClearMciSent();
+  EXPECT_TRUE(Click("CmdAcabei", 0));
+  EXPECT_TRUE(host->refused.empty());
+  EXPECT_EQ(static_cast<int>(Fase), 50);
+  EXPECT_EQ(FichasPlayer, 80 + 61);  // his pair of fives beats her nothing
+  const auto& sent = vb::MciSent();
+  const auto ganhei = std::find(sent.begin(), sent.end(), "Play MUSICAS\\MELODIAS\\GANHEI.WAV");
+  const auto fecha = std::find(sent.begin(), sent.end(), "Close MUSICAS\\MELODIAS\\APOSTA.WAV");
+  ASSERT_NE(ganhei, sent.end());
+  ASSERT_NE(fecha, sent.end());
+  EXPECT_LT(ganhei - sent.begin(), fecha - sent.begin());
+  // The showdown's four seconds, from the click; its wait ends hers too.
+  EXPECT_EQ(Desde(t0), 700 + 4000);
+}
+
+}  // namespace
