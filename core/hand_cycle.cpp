@@ -260,10 +260,8 @@ void TimerEspera_Timer() {
 
 void OcultarMoedas() {
   auto& f = Frm_Principal();
-  for (int i = 0; i < f.PicturePlayerCoin.Count(); ++i) {
-    f.PicturePlayerCoin(i).Visible = false;
-    f.PicturePokerCoin(i).Visible = false;
-  }
+  for (auto& [i, coin] : f.PicturePlayerCoin.items()) coin->Visible = false;
+  for (auto& [i, coin] : f.PicturePokerCoin.items()) coin->Visible = false;
 }
 
 void AjustarTela() {
@@ -320,6 +318,11 @@ void Timer1_Timer() {
   // The clock of the background music: the platform tells nothing of a track's end.
   static constexpr int kTicks[4] = {0, 920, 980, 590};
   MusicTime += 1;
+  // A debugging line that stayed on the table.
+  Frm_Principal().LblMusicTime.Caption = " PokerZEVA  -  Jogo de Poker (Versão 2) " +
+                                         std::string(" MusicTime = ") + vb::LongText(MusicTime) +
+                                         "    TRILHA = " + vb::LongText(Trilha) +
+                                         "  Jogosessao = " + Fase.Text();
   if (Trilha >= 1 && Trilha <= 3 && MusicTime > kTicks[Trilha]) {
     if (EfeitosOn && MusicaOn) Musicas("TRILHAS", TrilhaTexto(), "PLAY");
     MusicTime = 0;

@@ -27,16 +27,18 @@ void MostrarCartas(bool Lado, bool Mostrar, bool Som, bool Limpar) {
 }
 
 // The deck laid out card by card when the cheat shows it: one place for each card of the deck in
-// use, a short beat at each so that the deal reads as a deal.
+// use, a short beat at each so that the deal reads as a deal. Clearing takes every place of the
+// toolbar, so that a deck made smaller since the last hand leaves no stale cards behind.
 void MostrarBaralho(bool Mostrar, bool Limpar) {
   auto& f = Frm_Principal();
   static constexpr int kPasso = 40;  // milliseconds at each place
-  for (int i = 1; i <= NroCartas && i <= static_cast<int>(f.ToolbarBaraja.Buttons().size()); ++i) {
+  const int lugares = static_cast<int>(f.ToolbarBaraja.Buttons().size());
+  if (Limpar) {
+    for (int i = 1; i <= lugares; ++i) f.ToolbarBaraja.Button(i).SetImage(0);
+    return;
+  }
+  for (int i = 1; i <= NroCartas && i <= lugares; ++i) {
     vb::ToolbarButton& place = f.ToolbarBaraja.Button(i);
-    if (Limpar) {
-      place.SetImage(0);
-      continue;
-    }
     if (Mostrar) {
       place.SetImage("FRENTE");
       if (EfeitosOn) Musicas("EFEITOS", "CARTAINI");
