@@ -129,18 +129,12 @@ void CmdPago_Click() {
 }
 
 void CmdTudo_Click() {
-  auto& f = Frm_Principal();
   if (!Abertura() && !Final()) return;
   if (Fase < 20 && LimiteAbertura && MesaApostas > LimiteFichas) return;
   FecharPlayer();
   if (Abertura()) {
+    // The level of the present phase is the one changed; from 13 on there is none.
     const int fase = Fase;
-    auto nivel = [&]() -> std::int32_t {
-      if (fase == 10) return AberturaPlayer;
-      if (fase == 11) return AumentoAberturaPlayer;
-      if (fase == 12) return TotalAberturaPlayer;
-      return 0;
-    };
     auto somar = [&](int d) {
       if (fase == 10) AberturaPlayer += d;
       if (fase == 11) AumentoAberturaPlayer += d;
@@ -174,12 +168,11 @@ void CmdTudo_Click() {
       return std::int64_t{AberturaPlayer} + AumentoAberturaPlayer + TotalAberturaPlayer;
     };
     if (tres() > alvo) {
-      // The trim takes one at a time from the level of the present phase. At 13 no level is
-      // changed, so the trim never ends: the program stops responding there.
-      if (fase == 13) vb::Engine::Get().Hang();
+      // The trim takes one at a time from the level of the present phase. At 13 there is no
+      // level to take from, so the trim never ends: the program stops responding there.
+      if (fase > 12) vb::Engine::Get().Hang();
       while (tres() > alvo) somar(-1);
     }
-    (void)nivel;
     if (fase >= 10 && fase <= 12) {
       MoverFichas(false, quantia, true);
       AtualizarLabels();
@@ -204,7 +197,6 @@ void CmdTudo_Click() {
     ApostouTudo = true;
     VezPokerFinal();
   }
-  (void)f;
 }
 
 void CmdDesfazer_Click(int Index) {
