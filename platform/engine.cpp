@@ -18,17 +18,14 @@ std::string Input::Describe() const {
   return s;
 }
 
-Engine& Engine::Get() {
-  static Engine engine;
-  return engine;
-}
-
 void Engine::Register(Form& form) {
   if (std::find(forms_.begin(), forms_.end(), &form) == forms_.end()) forms_.push_back(&form);
+  TimersMoved();
 }
 
 void Engine::Forget(Form& form) {
   forms_.erase(std::remove(forms_.begin(), forms_.end(), &form), forms_.end());
+  TimersMoved();
   modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
 }
 
@@ -45,7 +42,7 @@ void Engine::RemoveListener(Listener* listener) {
   listeners_.erase(std::remove(listeners_.begin(), listeners_.end(), listener), listeners_.end());
 }
 
-void Engine::Changed(Control& control, Prop prop, int sub) {
+void Engine::Tell(Control& control, Prop prop, int sub) {
   for (std::size_t i = 0; i < listeners_.size(); ++i) listeners_[i]->Changed(control, prop, sub);
 }
 
@@ -55,6 +52,7 @@ void Engine::Reset() {
     f->active_ = nullptr;
   }
   forms_.clear();
+  TimersMoved();
   listeners_.clear();
   modal_.clear();
   hung_ = false;
@@ -90,6 +88,7 @@ void Engine::Unload(Form& form) {
   if (form.Unload) form.Unload(cancel);
   form.loaded_ = false;
   for (Control* t : form.timers()) t->timer_due = -1;
+  TimersMoved();
   if (host_) host_->TimersChanged();
   form.active_ = nullptr;
   form.Visible = false;
@@ -106,6 +105,7 @@ void Engine::Hang() {
   hung_ = true;
   for (Form* f : forms_)
     for (Control* t : f->timers()) t->timer_due = -1;
+  TimersMoved();
   if (Form* main = MainForm()) main->Caption = main->Caption.get() + kNotResponding;
   host_->Hang();
   std::terminate();
@@ -118,6 +118,7 @@ void Engine::PopupMenu(Control& menu) {
 // --- timers ----------------------------------------------------------------------------------
 
 void Engine::TimerChanged(Control& timer, Prop prop) {
+  TimersMoved();
   if (!timer.form().Loaded() || hung_) {
     timer.timer_due = -1;
   } else if (!timer.Enabled || timer.Interval <= 0) {
@@ -130,29 +131,53 @@ void Engine::TimerChanged(Control& timer, Prop prop) {
 }
 
 std::int64_t Engine::NextTimerDue() const {
+  if (next_due_known_) return next_due_;
   std::int64_t next = -1;
   for (Form* f : forms_)
     for (Control* t : f->timers())
       if (t->timer_due >= 0 && (next < 0 || t->timer_due < next)) next = t->timer_due;
+  next_due_ = next;
+  next_due_known_ = true;
   return next;
 }
 
 bool Engine::FireDueTimers() {
   if (hung_) return false;
   const std::int64_t now = Now();
-  std::vector<Control*> due;
-  for (Form* f : forms_)
-    for (Control* t : f->timers())
-      if (t->timer_due >= 0 && t->timer_due <= now) due.push_back(t);
-  std::stable_sort(due.begin(), due.end(), [](Control* a, Control* b) {
+  if (const std::int64_t next = NextTimerDue(); next < 0 || next > now) return false;
+  // The ticks due, earliest first, then in their fixed order; among equals, forms in order and
+  // timers in order of creation. A game has a handful of timers: they are gathered on the stack
+  // and placed by insertion, which keeps equals in the order they came.
+  constexpr std::size_t kOnStack = 16;
+  Control* on_stack[kOnStack];
+  std::vector<Control*> spill;
+  Control** due = on_stack;
+  std::size_t n = 0;
+  const auto before = [](const Control* a, const Control* b) {
     return a->timer_due != b->timer_due ? a->timer_due < b->timer_due
                                         : a->timer_order < b->timer_order;
-  });
+  };
+  for (Form* f : forms_) {
+    for (Control* t : f->timers()) {
+      if (t->timer_due < 0 || t->timer_due > now) continue;
+      if (n == kOnStack) spill.assign(on_stack, on_stack + n);
+      if (n >= kOnStack) {
+        spill.push_back(t);
+        due = spill.data();
+      }
+      std::size_t i = n++;
+      for (; i > 0 && before(t, due[i - 1]); --i) due[i] = due[i - 1];
+      due[i] = t;
+    }
+  }
+  if (n == 0) return false;
   bool fired = false;
-  for (Control* t : due) {
+  for (std::size_t k = 0; k < n; ++k) {
+    Control* t = due[k];
     // An earlier tick may have stopped or restarted this one.
     if (t->timer_due < 0 || t->timer_due > now) continue;
     t->timer_due = now + t->Interval;
+    TimersMoved();
     if (t->timer_busy) continue;  // a tick never runs inside its own handler
     fired = true;
     t->timer_busy = true;
@@ -170,6 +195,7 @@ bool Engine::FireDueTimers() {
 Control* Engine::Target(const Input& input) const {
   if (!input.form) return nullptr;
   if (input.control.empty()) return input.form;
+  if (input.target) return input.target;
   Control* c = input.form->Find(input.control, input.index);
   if (input.type == Input::Type::Key && input.control.empty()) return input.form->ActiveControl();
   return c;
@@ -179,21 +205,30 @@ bool Engine::Accepts(const Input& input) const {
   if (hung_) return input.type == Input::Type::Close && input.form && input.form->is_main;
   if (!input.form || !input.form->Loaded()) return false;
   if (input.type == Input::Type::Close) return true;
+  const Control* c = input.type == Input::Type::Key && input.control.empty()
+                         ? input.form->ActiveControl()
+                         : Target(input);
+  return Accepts(input.type, input.form, c, input.button);
+}
+
+bool Engine::Accepts(Input::Type type, const Form* form, const Control* c, int button) const {
+  if (hung_) return type == Input::Type::Close && form && form->is_main;
+  if (!form || !form->Loaded()) return false;
+  if (type == Input::Type::Close) return true;
   // A modal form takes all input while it is up.
-  if (Form* top = TopModal(); top && top != input.form) return false;
-  if (!input.form->Visible) return false;
-  Control* c = input.type == Input::Type::Key && input.control.empty() ? input.form->ActiveControl()
-                                                                       : Target(input);
+  if (Form* top = TopModal(); top && top != form) return false;
+  if (!form->Visible) return false;
   if (!c) return false;
-  if (input.type == Input::Type::Menu) {
-    for (Control* m = c; m; m = m->parent())
+  if (type == Input::Type::Menu) {
+    for (const Control* m = c; m; m = m->parent())
       if (!m->Visible || !m->Enabled) return false;
     return true;
   }
   if (!c->EffectivelyVisible() || !c->EffectivelyEnabled()) return false;
-  if (input.type == Input::Type::ButtonClick) {
-    if (input.button < 1 || input.button > static_cast<int>(c->Buttons().size())) return false;
-    return c->Button(input.button).Enabled();
+  if (type == Input::Type::ButtonClick) {
+    const auto& buttons = c->Buttons();
+    if (button < 1 || button > static_cast<int>(buttons.size())) return false;
+    return buttons[static_cast<std::size_t>(button - 1)]->Enabled();
   }
   return true;
 }

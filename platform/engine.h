@@ -38,8 +38,10 @@ struct Input {
   Form* form = nullptr;
   std::string control;  // name of the control (empty: the form itself)
   int index = -1;       // index in its control array
-  int button = 0;       // toolbar button number, or mouse button (2 = right)
-  int key_code = 0;     // for Key: the key code (13 Enter, 32 Space, 37..40 arrows, 9 Tab)
+  // The control named, when the caller has it at hand already (saves the look-up by name).
+  Control* target = nullptr;
+  int button = 0;    // toolbar button number, or mouse button (2 = right)
+  int key_code = 0;  // for Key: the key code (13 Enter, 32 Space, 37..40 arrows, 9 Tab)
   int shift = 0;
   std::string text;  // for Type
   std::string Describe() const;
@@ -61,7 +63,10 @@ class Host {
 
 class Engine {
  public:
-  static Engine& Get();
+  static Engine& Get() {
+    static Engine engine;
+    return engine;
+  }
 
   void SetHost(Host* host) { host_ = host; }
   Host& host() const { return *host_; }
@@ -76,7 +81,9 @@ class Engine {
 
   void AddListener(Listener* listener);
   void RemoveListener(Listener* listener);
-  void Changed(Control& control, Prop prop, int sub);
+  void Changed(Control& control, Prop prop, int sub) {
+    if (!listeners_.empty()) Tell(control, prop, sub);
+  }
 
   // Forms: show (a modal show returns when the form has unloaded), unload, and the two ends.
   void Load(Form& form);  // loads without showing; the Load event runs, timers start
@@ -97,6 +104,10 @@ class Engine {
   // form, or the program hung).
   bool Deliver(const Input& input);
   bool Accepts(const Input& input) const;
+  // The same question for a control already found (`target` null for a missing one): input of
+  // `type` on `target` of `form`, toolbar button `button` for a ButtonClick. For callers that ask
+  // it often, as the random player of the soak does.
+  bool Accepts(Input::Type type, const Form* form, const Control* target, int button = 0) const;
 
   void PopupMenu(Control& menu);
 
@@ -105,7 +116,12 @@ class Engine {
 
  private:
   Control* Target(const Input& input) const;
+  void Tell(Control& control, Prop prop, int sub);
+  // Every timer_due is written here, in the engine, which keeps the earliest of them.
+  void TimersMoved() { next_due_known_ = false; }
   Host* host_ = nullptr;
+  mutable std::int64_t next_due_ = -1;
+  mutable bool next_due_known_ = false;
   std::vector<Form*> forms_;
   std::vector<Listener*> listeners_;
   std::vector<Form*> modal_;

@@ -17,6 +17,12 @@ template class Property<std::string>;
 template class Property<bool>;
 template class Property<int>;
 
+TabStop& TabStop::operator=(int v) {
+  if (v != v_) owner_->form().tab_order_stale_ = true;
+  v_ = v;
+  return *this;
+}
+
 // --- toolbar buttons -------------------------------------------------------------------------
 
 ToolbarButton::ToolbarButton(Control* toolbar, int index, std::string key)
@@ -136,30 +142,43 @@ const StoredImage& ImageList::Item(int position) const {
   return images_[position - 1];
 }
 
+const StoredImage* ImageList::Find(std::string_view key) const {
+  if (key.empty()) return nullptr;
+  if (by_key_stale_) {
+    by_key_.clear();
+    by_key_.reserve(images_.size());
+    for (std::size_t i = 0; i < images_.size(); ++i)
+      if (!images_[i].key.empty()) by_key_.emplace(images_[i].key, static_cast<int>(i));
+    by_key_stale_ = false;
+  }
+  auto it = by_key_.find(key);
+  return it == by_key_.end() ? nullptr : &images_[static_cast<std::size_t>(it->second)];
+}
+
 const StoredImage& ImageList::Item(const std::string& key) const {
-  for (const auto& i : images_)
-    if (i.key == key && !key.empty()) return i;
+  if (const StoredImage* i = Find(key)) return *i;
   Raise(err::kElementNotFound);
 }
 
 bool ImageList::HasKey(const std::string& key) const {
-  return std::any_of(images_.begin(), images_.end(),
-                     [&](const StoredImage& i) { return !key.empty() && i.key == key; });
+  return Find(key) != nullptr;
 }
 
-void ImageList::Add(const std::string& picture, const std::string& key, const std::string& tag) {
-  images_.push_back({key, tag, picture});
+void ImageList::Add(std::string picture, std::string key, std::string tag) {
+  images_.push_back({std::move(key), std::move(tag), std::move(picture)});
+  by_key_stale_ = true;  // a key given twice names its first image
   Notify(Prop::Images);
 }
 
 void ImageList::Remove(int position) {
   Item(position);  // faults when missing
   images_.erase(images_.begin() + (position - 1));
+  by_key_stale_ = true;
   Notify(Prop::Images);
 }
 
 template <class T>
-T& ControlArray<T>::operator()(int index) const {
+T& ControlArray<T>::Element(int index) const {
   auto it = items_.find(index);
   if (it == items_.end()) Raise(err::kArrayElement);
   return *it->second;
@@ -176,10 +195,9 @@ Form::~Form() {
   Engine::Get().Forget(*this);
 }
 
-Control& Form::Add(Kind kind, const std::string& name, Control* parent, int index) {
-  controls_.push_back(std::make_unique<Control>(this, parent, kind, name, index));
+Control& Form::Add(Kind kind, std::string_view name, Control* parent, int index) {
+  controls_.push_back(std::make_unique<Control>(this, parent, kind, std::string(name), index));
   Control& c = *controls_.back();
-  by_name_[{name, index}] = &c;
   if (parent) parent->children_.push_back(&c);
   if (kind == Kind::Timer) {
     c.Enabled = false;
@@ -188,26 +206,34 @@ Control& Form::Add(Kind kind, const std::string& name, Control* parent, int inde
   return c;
 }
 
-ImageList& Form::AddImageList(const std::string& name) {
-  auto list = std::make_unique<ImageList>(this, name);
+ImageList& Form::AddImageList(std::string_view name) {
+  auto list = std::make_unique<ImageList>(this, std::string(name));
   ImageList& ref = *list;
-  by_name_[{name, -1}] = &ref;
   controls_.push_back(std::move(list));
   return ref;
 }
 
-Control* Form::Find(const std::string& name, int index) const {
+Control* Form::Find(std::string_view name, int index) const {
+  // Controls added since the last look-up join the index; a name and index given twice names the
+  // control added last.
+  for (; by_name_count_ < controls_.size(); ++by_name_count_) {
+    const Control& c = *controls_[by_name_count_];
+    by_name_[{c.Name(), c.Index()}] = controls_[by_name_count_].get();
+  }
   auto it = by_name_.find({name, index});
   return it == by_name_.end() ? nullptr : it->second;
 }
 
-std::vector<Control*> Form::TabOrder() const {
-  std::vector<Control*> order;
-  for (const auto& c : controls_)
-    if (c->TabIndex >= 0) order.push_back(c.get());
-  std::stable_sort(order.begin(), order.end(),
-                   [](Control* a, Control* b) { return a->TabIndex < b->TabIndex; });
-  return order;
+const std::vector<Control*>& Form::TabStops() const {
+  if (tab_order_stale_) {
+    tab_order_.clear();
+    for (const auto& c : controls_)
+      if (c->TabIndex >= 0) tab_order_.push_back(c.get());
+    std::stable_sort(tab_order_.begin(), tab_order_.end(),
+                     [](Control* a, Control* b) { return a->TabIndex < b->TabIndex; });
+    tab_order_stale_ = false;
+  }
+  return tab_order_;
 }
 
 void Form::FocusTo(Control* target) {
@@ -224,7 +250,7 @@ void Form::FocusTo(Control* target) {
 
 void Form::FocusLost() {
   // The next control in tab order that can take the focus, else none.
-  const auto order = TabOrder();
+  const std::vector<Control*>& order = TabStops();
   Control* next = nullptr;
   auto at = std::find(order.begin(), order.end(), active_);
   for (std::size_t step = 1; step <= order.size() && at != order.end(); ++step) {
@@ -240,7 +266,7 @@ void Form::FocusLost() {
 void Form::SendKeys(const std::string& keys) {
   const bool back = keys == "+{TAB}";
   if (!back && keys != "{TAB}") return;
-  const auto order = TabOrder();
+  const std::vector<Control*>& order = TabStops();
   if (order.empty()) return;
   auto at = std::find(order.begin(), order.end(), active_);
   const std::size_t n = order.size();

@@ -9,6 +9,9 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace vb {
@@ -111,6 +114,20 @@ class ToolbarButton {
   std::string tag_;
 };
 
+// A control's place in the tab order: reads and writes like a number (-1: not a tab stop). A write
+// tells the form, which keeps its tab order ready between changes.
+class TabStop {
+ public:
+  explicit TabStop(Control* owner) : owner_(owner) {}
+  TabStop(const TabStop&) = delete;
+  operator int() const { return v_; }  // NOLINT: reads as its number
+  TabStop& operator=(int v);
+
+ private:
+  Control* owner_;
+  int v_ = -1;
+};
+
 struct Font {
   std::string name = "MS Sans Serif";
   double size = 8.25;
@@ -149,7 +166,7 @@ class Control {
   std::uint32_t ForeColor = 0x000000;
   bool HasBackColor = false;
   Font font;
-  int TabIndex = -1;  // a tab stop when >= 0
+  TabStop TabIndex{this};  // a tab stop when >= 0
   int BorderWidth = 1;
 
   // The form engine's reach from a control.
@@ -170,6 +187,7 @@ class Control {
 
   // Toolbars: buttons numbered from 1, and the image store they draw from.
   std::vector<std::unique_ptr<ToolbarButton>>& Buttons() { return buttons_; }
+  const std::vector<std::unique_ptr<ToolbarButton>>& Buttons() const { return buttons_; }
   ToolbarButton& Button(int index);
   ToolbarButton& Button(const std::string& key);
   ToolbarButton& AddButton(const std::string& key = "");
@@ -211,26 +229,43 @@ class ImageList : public Control {
   bool HasKey(const std::string& key) const;
   std::string PictureOf(int position) const { return Item(position).picture; }
   std::string PictureOf(const std::string& key) const { return Item(key).picture; }
-  void Add(const std::string& picture, const std::string& key = "", const std::string& tag = "");
+  void Add(std::string picture, std::string key = "", std::string tag = "");
   void Remove(int position);
   const std::vector<StoredImage>& images() const { return images_; }
 
  private:
+  const StoredImage* Find(std::string_view key) const;
   std::vector<StoredImage> images_;
+  // Key -> position of its first image, from 0; made again on the first look-up after a change.
+  mutable std::unordered_map<std::string_view, int> by_key_;
+  mutable bool by_key_stale_ = false;
 };
 
 // Elements of a control array by their Index; a missing one is run-time error 340.
 template <class T = Control>
 class ControlArray {
  public:
-  T& operator()(int index) const;
+  T& operator()(int index) const {
+    if (index >= 0 && static_cast<std::size_t>(index) < dense_.size() && dense_[index])
+      return *dense_[static_cast<std::size_t>(index)];
+    return Element(index);
+  }
   int Count() const { return static_cast<int>(items_.size()); }
   int UBound() const { return items_.empty() ? -1 : items_.rbegin()->first; }
-  void Set(int index, T* control) { items_[index] = control; }
+  void Set(int index, T* control) {
+    items_[index] = control;
+    if (index >= 0 && index < kDense) {
+      if (static_cast<std::size_t>(index) >= dense_.size()) dense_.resize(index + 1, nullptr);
+      dense_[static_cast<std::size_t>(index)] = control;
+    }
+  }
   const std::map<int, T*>& items() const { return items_; }
 
  private:
+  static constexpr int kDense = 1024;  // indices below this are also kept by position
+  T& Element(int index) const;
   std::map<int, T*> items_;
+  std::vector<T*> dense_;
 };
 
 class Form : public Control {
@@ -239,9 +274,9 @@ class Form : public Control {
   ~Form() override;
 
   // Controls are created inside the form and live as long as it does.
-  Control& Add(Kind kind, const std::string& name, Control* parent = nullptr, int index = -1);
-  ImageList& AddImageList(const std::string& name);
-  Control* Find(const std::string& name, int index = -1) const;
+  Control& Add(Kind kind, std::string_view name, Control* parent = nullptr, int index = -1);
+  ImageList& AddImageList(std::string_view name);
+  Control* Find(std::string_view name, int index = -1) const;
   const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
   const std::vector<Control*>& timers() const { return timers_; }
 
@@ -262,14 +297,28 @@ class Form : public Control {
   void SendKeys(const std::string& keys);
   // The focused control was disabled or hidden: the focus moves on by itself.
   void FocusLost();
-  std::vector<Control*> TabOrder() const;
+  std::vector<Control*> TabOrder() const { return TabStops(); }
 
  private:
   friend class Engine;
   friend class Control;
+  friend class TabStop;
+  // The tab order, kept until a TabIndex changes.
+  const std::vector<Control*>& TabStops() const;
+  struct NameHash {
+    std::size_t operator()(const std::pair<std::string_view, int>& k) const {
+      return std::hash<std::string_view>()(k.first) ^
+             (static_cast<std::size_t>(k.second) * 0x9E3779B97F4A7C15ull);
+    }
+  };
   std::vector<std::unique_ptr<Control>> controls_;
   std::vector<Control*> timers_;
-  std::map<std::pair<std::string, int>, Control*> by_name_;
+  // By name and index, made on the first look-up after controls were added. The names are the
+  // controls' own, which live as long as the form.
+  mutable std::unordered_map<std::pair<std::string_view, int>, Control*, NameHash> by_name_;
+  mutable std::size_t by_name_count_ = 0;  // controls in by_name_ so far
+  mutable std::vector<Control*> tab_order_;
+  mutable bool tab_order_stale_ = true;
   Control* active_ = nullptr;
   bool loaded_ = false;
 };

@@ -5,6 +5,7 @@
 #include <memory>
 #include <ostream>
 #include <sstream>
+#include <unordered_map>
 
 #include "chips/chips.h"
 #include "core/game_state.h"
@@ -111,36 +112,52 @@ Options g_options;
 
 struct Observer : vb::Listener {
   Session* session;
+  const vb::Form* table = nullptr;
+  // What each control of the table is to the printer, found once by its name.
+  enum Watch : signed char { kUnknown, kNone, kLabel, kPokerCards, kPlayerCards };
+  std::unordered_map<const vb::Control*, Watch> watch;
   std::map<std::string, std::string> labels;  // last caption of each watched label
   std::map<std::string, std::string> cards;   // last image of each card button
 
+  Watch Classify(const vb::Control& c) {
+    static const char* kWatched[] = {
+        "LabelPokerFichas",         "LabelPokerMoney",           "LabelPlayerFichas",
+        "LabelPlayerMoney",         "LabelMesaFichas",           "LabelMesaMoney",
+        "LabelPokerMesaTotalCoims", "LabelPlayerMesaTotalCoims", "LabelManoMesa",
+        "LabelPokerMensagem"};
+    if (c.Name() == "ToolbarPoker") return kPokerCards;
+    if (c.Name() == "ToolbarPlayer") return kPlayerCards;
+    for (const char* name : kWatched)
+      if (c.Name() == name) return kLabel;
+    return kNone;
+  }
+
   void Changed(vb::Control& c, vb::Prop prop, int sub) override {
+    if (prop != vb::Prop::Caption && prop != vb::Prop::ButtonImage) return;
     // Only the table; never create it from here (this runs while it is being built).
-    if (c.form().Name() != "Frm_Principal") return;
-    if (prop == vb::Prop::Caption) {
-      static const char* kWatched[] = {
-          "LabelPokerFichas",         "LabelPokerMoney",           "LabelPlayerFichas",
-          "LabelPlayerMoney",         "LabelMesaFichas",           "LabelMesaMoney",
-          "LabelPokerMesaTotalCoims", "LabelPlayerMesaTotalCoims", "LabelManoMesa",
-          "LabelPokerMensagem"};
-      for (const char* name : kWatched) {
-        if (c.Name() != name) continue;
-        auto it = labels.find(name);
-        const std::string& now = c.Caption.get();
-        if (it == labels.end() ? !now.empty() : it->second != now) {
-          labels[name] = now;
-          session->Emit("label", "\"name\": " + Json(name) + ", \"caption\": " + Json(now));
-        }
+    if (&c.form() != table) {
+      if (c.form().Name() != "Frm_Principal") return;
+      table = &c.form();
+      watch.clear();
+    }
+    Watch& w = watch[&c];
+    if (w == kUnknown) w = Classify(c);
+    if (prop == vb::Prop::Caption && w == kLabel) {
+      auto it = labels.find(c.Name());
+      const std::string& now = c.Caption.get();
+      if (it == labels.end() ? !now.empty() : it->second != now) {
+        labels[c.Name()] = now;
+        session->Emit("label", "\"name\": " + Json(c.Name()) + ", \"caption\": " + Json(now));
       }
     } else if (prop == vb::Prop::ButtonImage && sub % 2 == 0 &&
-               (c.Name() == "ToolbarPoker" || c.Name() == "ToolbarPlayer")) {
+               (w == kPokerCards || w == kPlayerCards)) {
       const std::string key = c.Name() + std::to_string(sub);
-      const std::string image = c.Button(sub).ImageKey();
+      const std::string& image = c.Button(sub).ImageKey();
       auto it = cards.find(key);
       if (it == cards.end() ? !image.empty() : it->second != image) {
         cards[key] = image;
         session->Emit("card", std::string("\"side\": ") +
-                                  (c.Name() == "ToolbarPoker" ? "\"poker\"" : "\"player\"") +
+                                  (w == kPokerCards ? "\"poker\"" : "\"player\"") +
                                   ", \"pos\": " + std::to_string(sub / 2) +
                                   ", \"image\": " + (image.empty() ? "null" : Json(image)));
       }
@@ -148,9 +165,20 @@ struct Observer : vb::Listener {
   }
 };
 
+// The controls the random player looks at, found once per table.
+struct Controls {
+  const FrmPrincipal* table = nullptr;
+  const vb::Control* coins = nullptr;
+  const vb::Control* chip_places[4] = {};
+  const vb::Control* card_places[5] = {};
+  const vb::Control* buttons[11] = {};
+};
+
 struct Session::Impl {
   vb::VirtualHost host;
   Observer observer;
+  Controls controls;
+  std::istringstream words;  // the words of a script line, kept for the next line
 };
 
 namespace {
@@ -213,11 +241,16 @@ Session::Session(const Options& options, std::ostream* out)
   g_session = this;
   g_options = options;
   g_ajustes_iniciais = AjustesDaReplay;
-  g_depois_da_fala = DepoisDaFala;
-  FaseVar::Observe(FaseMudou);
-  vb::InstallMciSink(
-      [this](const std::string& command) { Emit("mci", "\"command\": " + Json(command)); });
-  vb::Engine::Get().AddListener(&impl_->observer);
+  if (out_) {
+    g_depois_da_fala = DepoisDaFala;
+    FaseVar::Observe(FaseMudou);
+    vb::InstallMciSink(
+        [this](const std::string& command) { Emit("mci", "\"command\": " + Json(command)); });
+    vb::Engine::Get().AddListener(&impl_->observer);
+  } else {
+    // Nothing is printed, so nothing need be watched; the recorder need not grow either.
+    vb::InstallMciSink([](const std::string&) { vb::ClearMciSent(); });
+  }
 }
 
 Session::~Session() {
@@ -278,20 +311,46 @@ int Denom(const std::string& v) {
   return -1;
 }
 
+// The control of the table by its name and index, as the form would find it; the controls a
+// script can name are the table's own members, which saves the look-up by name.
+vb::Control* Resolve(FrmPrincipal& f, const std::string& name, int index) {
+  const auto element = [index](const vb::ControlArray<>& array) -> vb::Control* {
+    auto it = array.items().find(index);
+    return it == array.items().end() ? nullptr : it->second;
+  };
+  const auto single = [index](vb::Control& c) { return index == -1 ? &c : nullptr; };
+  if (name == "ToolbarPlayerCoins") return single(f.ToolbarPlayerCoins);
+  if (name == "PicFichasPlayer") return element(f.PicFichasPlayer);
+  if (name == "LabelPlayerFichasPOT") return element(f.LabelPlayerFichasPOT);
+  if (name == "PicCartasPlayer") return element(f.PicCartasPlayer);
+  if (name == "ToolbarPlayer") return single(f.ToolbarPlayer);
+  if (name == "CmdPago") return single(f.CmdPago);
+  if (name == "CmdTudo") return single(f.CmdTudo);
+  if (name == "CmdConfrontar") return single(f.CmdConfrontar);
+  if (name == "CmdMaisUma") return single(f.CmdMaisUma);
+  if (name == "CmdSair") return element(f.CmdSair);
+  if (name == "CmdAcabei") return element(f.CmdAcabei);
+  if (name == "CmdDesfazer") return element(f.CmdDesfazer);
+  return f.Find(name, index);
+}
+
 vb::Input Make(vb::Input::Type type, const std::string& control, int index = -1) {
   vb::Input in;
   in.type = type;
-  in.form = &Frm_Principal();
+  FrmPrincipal& f = Frm_Principal();
+  in.form = &f;
   in.control = control;
   in.index = index;
+  if (!control.empty()) in.target = Resolve(f, control, index);
   return in;
 }
 
 }  // namespace
 
 bool Session::Play(const std::string& raw, int line_number) {
-  std::string line = raw.substr(0, raw.find('#'));
-  std::istringstream words(line);
+  std::istringstream& words = impl_->words;
+  words.clear();
+  words.str(raw.substr(0, raw.find('#')));
   std::string word;
   if (!(words >> word)) return true;  // blank or comment
   auto refuse = [&] {
@@ -374,7 +433,7 @@ bool Session::Play(const std::string& raw, int line_number) {
     return refuse();
   }
   if (focus_first) {
-    vb::Control* target = f.Find(in.control, in.index);
+    vb::Control* target = in.target;
     if (!target || !target->CanTakeFocus() ||
         !engine.Accepts(Make(vb::Input::Type::Click, in.control, in.index)))
       return refuse();
@@ -385,9 +444,10 @@ bool Session::Play(const std::string& raw, int line_number) {
   Run(
       [&] {
         if (focus_first) {
-          f.FocusTo(f.Find(in.control, in.index));
+          f.FocusTo(in.target);
           in.control.clear();  // the key goes to the focused control
           in.index = -1;
+          in.target = nullptr;
         }
         engine.Deliver(in);
       },
@@ -401,42 +461,61 @@ void Session::PlayScript(std::istream& script) {
   while (std::getline(script, line)) Play(line, ++n);
 }
 
+namespace {
+
+struct Button {
+  const char* name;
+  int index;
+  const char* line;
+};
+constexpr Button kButtons[] = {
+    {"CmdPago", -1, "click CmdPago"},          {"CmdTudo", -1, "click CmdTudo"},
+    {"CmdDesfazer", 0, "click CmdDesfazer 0"}, {"CmdDesfazer", 1, "click CmdDesfazer 1"},
+    {"CmdAcabei", 0, "click CmdAcabei 0"},     {"CmdAcabei", 1, "click CmdAcabei 1"},
+    {"CmdSair", 0, "click CmdSair 0"},         {"CmdSair", 1, "click CmdSair 1"},
+    {"CmdSair", 2, "click CmdSair 2"},         {"CmdConfrontar", -1, "click CmdConfrontar"},
+    {"CmdMaisUma", -1, "click CmdMaisUma"}};
+constexpr const char* kChipButton[] = {"chip 1 button", "chip 5 button", "chip 10 button",
+                                       "chip 50 button"};
+constexpr const char* kChipPic[] = {"chip 1 pic", "chip 5 pic", "chip 10 pic", "chip 50 pic"};
+constexpr const char* kMark[] = {"mark 1", "mark 2", "mark 3", "mark 4", "mark 5"};
+
+const Controls& Found(Controls& c, FrmPrincipal& f) {
+  if (c.table == &f) return c;
+  c.table = &f;
+  c.coins = &f.ToolbarPlayerCoins;
+  for (const Denominacao& d : kDenominacoes)
+    c.chip_places[d.pic] = Resolve(f, "PicFichasPlayer", d.pic);
+  for (int p = 0; p < 5; ++p) c.card_places[p] = Resolve(f, "PicCartasPlayer", p);
+  for (std::size_t b = 0; b < std::size(kButtons); ++b)
+    c.buttons[b] = Resolve(f, kButtons[b].name, kButtons[b].index);
+  return c;
+}
+
+}  // namespace
+
 std::vector<std::string> Session::LegalActions() const {
   std::vector<std::string> actions;
   if (over()) return actions;
   auto& f = Frm_Principal();
   auto& engine = vb::Engine::Get();
   if (!f.Visible) return actions;
-  auto accepts = [&](vb::Input::Type type, const std::string& name, int index, int button = 0) {
-    vb::Input in = Make(type, name, index);
-    in.button = button;
-    return engine.Accepts(in);
-  };
+  // The same questions Play asks of the screen, on controls found once.
+  const Controls& c = Found(impl_->controls, f);
+  using T = vb::Input::Type;
   if (FaseDeApostas()) {
-    for (const Denominacao& d : kDenominacoes) {
-      if (accepts(vb::Input::Type::ButtonClick, "ToolbarPlayerCoins", -1, d.botao))
-        actions.push_back("chip " + std::to_string(d.valor) + " button");
-      if (accepts(vb::Input::Type::Click, "PicFichasPlayer", d.pic))
-        actions.push_back("chip " + std::to_string(d.valor) + " pic");
+    for (int d = 0; d < 4; ++d) {
+      const Denominacao& den = kDenominacoes[d];
+      if (engine.Accepts(T::ButtonClick, &f, c.coins, den.botao)) actions.push_back(kChipButton[d]);
+      if (engine.Accepts(T::Click, &f, c.chip_places[den.pic])) actions.push_back(kChipPic[d]);
     }
   }
   if (Fase == 20) {
-    for (int p = 1; p <= 5; ++p)
-      if (accepts(vb::Input::Type::Click, "PicCartasPlayer", p - 1))
-        actions.push_back("mark " + std::to_string(p));
+    for (int p = 0; p < 5; ++p)
+      if (engine.Accepts(T::Click, &f, c.card_places[p])) actions.push_back(kMark[p]);
   }
-  static const struct {
-    const char* name;
-    int index;
-  } kButtons[] = {{"CmdPago", -1},  {"CmdTudo", -1},       {"CmdDesfazer", 0}, {"CmdDesfazer", 1},
-                  {"CmdAcabei", 0}, {"CmdAcabei", 1},      {"CmdSair", 0},     {"CmdSair", 1},
-                  {"CmdSair", 2},   {"CmdConfrontar", -1}, {"CmdMaisUma", -1}};
-  for (const auto& b : kButtons) {
-    if (accepts(vb::Input::Type::Click, b.name, b.index)) {
-      actions.push_back(std::string("click ") + b.name +
-                        (b.index >= 0 ? " " + std::to_string(b.index) : ""));
-    }
-  }
+  for (std::size_t b = 0; b < std::size(kButtons); ++b)
+    if (engine.Accepts(T::Click, &f, c.buttons[b])) actions.push_back(kButtons[b].line);
   return actions;
 }
 
