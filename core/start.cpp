@@ -74,4 +74,6 @@ void IniciarJogo() {
   LigarEventos(f);
   vb::Engine::Get().Load(f);
   Form_Initialize();
+  // Back to the event loop: the focus events the first turn queued run now.
+  vb::Engine::Get().RunFocusEvents();
 }

@@ -24,6 +24,7 @@ void Engine::Register(Form& form) {
 }
 
 void Engine::Forget(Form& form) {
+  std::erase_if(focus_events_, [&](const FocusEvent& e) { return &e.control->form() == &form; });
   forms_.erase(std::remove(forms_.begin(), forms_.end(), &form), forms_.end());
   TimersMoved();
   modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
@@ -55,6 +56,7 @@ void Engine::Reset() {
   TimersMoved();
   listeners_.clear();
   modal_.clear();
+  focus_events_.clear();
   hung_ = false;
 }
 
@@ -186,8 +188,30 @@ bool Engine::FireDueTimers() {
       ~Done() { t->timer_busy = false; }
     } done{t};
     if (t->TimerEvent) t->TimerEvent();
+    RunFocusEvents();
   }
   return fired;
+}
+
+void Engine::PostFocusEvents(Control* lost, Control* got) {
+  if (lost && lost->LostFocus) focus_events_.push_back({lost, false});
+  if (got && got->GotFocus) focus_events_.push_back({got, true});
+}
+
+bool Engine::RunFocusEvents() {
+  bool ran = false;
+  while (!focus_events_.empty()) {
+    const FocusEvent e = focus_events_.front();
+    focus_events_.erase(focus_events_.begin());
+    if (!e.control->form().Loaded()) continue;
+    ran = true;
+    if (e.got) {
+      e.control->GotFocus();
+    } else {
+      e.control->LostFocus();
+    }
+  }
+  return ran;
 }
 
 // --- input -----------------------------------------------------------------------------------
@@ -245,12 +269,17 @@ bool Engine::Deliver(const Input& input) {
     Unload(*input.form);
     return true;
   }
+  // Focus events still waiting come first: they were queued before this input.
+  RunFocusEvents();
   Control* c = input.type == Input::Type::Key && input.control.empty() ? input.form->ActiveControl()
                                                                        : Target(input);
+  if (!c) return false;
   switch (input.type) {
     case Input::Type::Click:
-      // A click takes the focus first; the click runs even if a LostFocus handler moved it on.
+      // The press takes the focus, and its LostFocus and GotFocus run before the click; the click
+      // runs even if a LostFocus handler moved the focus on.
       if (c->CanTakeFocus()) input.form->FocusTo(c);
+      RunFocusEvents();
       if (c->Click) c->Click();
       break;
     case Input::Type::Key: {
@@ -282,6 +311,7 @@ bool Engine::Deliver(const Input& input) {
     case Input::Type::Close:
       break;
   }
+  RunFocusEvents();
   return true;
 }
 

@@ -99,6 +99,12 @@ class Engine {
   std::int64_t NextTimerDue() const;  // -1: none
   bool FireDueTimers();               // fires every timer due by now; whether any fired
 
+  // Focus events wait in the queue: LostFocus of the control that lost the focus, then GotFocus
+  // of the one that took it. They run when the code that moved the focus hands control back: after
+  // the handler of an input or a tick, and whenever events are served. Whether any ran.
+  void PostFocusEvents(Control* lost, Control* got);
+  bool RunFocusEvents();
+
   // The player's input: runs the handler at once (nested, when a handler is waiting). Returns
   // false when the screen would refuse it (control hidden, disabled, missing, behind a modal
   // form, or the program hung).
@@ -126,6 +132,12 @@ class Engine {
   std::vector<Listener*> listeners_;
   std::vector<Form*> modal_;
   bool hung_ = false;
+  struct FocusEvent {
+    Control* control;
+    bool got;
+  };
+  std::vector<FocusEvent> focus_events_;
+  bool running_focus_events_ = false;
 };
 
 // The runtime's DoEvents: hand control to the event queue once.

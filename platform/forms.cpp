@@ -240,12 +240,10 @@ void Form::FocusTo(Control* target) {
   if (target == active_) return;
   Control* old = active_;
   active_ = target;
-  if (old && old->LostFocus) old->LostFocus();
-  // A LostFocus handler may have moved the focus on already.
-  if (active_ == target && target) {
-    Engine::Get().Changed(*target, Prop::Focus, 0);
-    if (target->GotFocus) target->GotFocus();
-  }
+  if (target) Engine::Get().Changed(*target, Prop::Focus, 0);
+  // The focus itself moves at once; its LostFocus and GotFocus events wait in the queue and run
+  // when the running code hands control back, as the old platform posted them.
+  Engine::Get().PostFocusEvents(old, target);
 }
 
 void Form::FocusLost() {

@@ -48,6 +48,7 @@ bool VirtualHost::ServeDue() {
 }
 
 void VirtualHost::ServeEvents() {
+  if (Engine::Get().RunFocusEvents()) return;
   if (!next_wait_.empty()) {
     std::deque<Input> batch;
     batch.swap(next_wait_);

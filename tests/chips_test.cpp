@@ -545,6 +545,7 @@ TEST_F(Chips, ChipPlacesAnswerTheKeyboardAndSpringBack) {
   Fase = 30;
   Montar(false, {5, 1, 5, 5});
   F().PicFichasPlayer(1).SetFocus();
+  vb::Engine::Get().RunFocusEvents();  // the focus events run when the code hands control back
   for (int k = 4; k < 8; ++k) EXPECT_TRUE(F().FraFichasFocus(k).Visible);
   Key(32);  // the last five: its place is disabled and the focus and its frame move on
   EXPECT_EQ(Mostradas(F().PicturePlayerCoin), std::vector<int>{5});

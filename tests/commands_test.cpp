@@ -487,7 +487,9 @@ TEST_F(Comandos, AWholeTurnByKeysAlone) {
 TEST_F(Comandos, AClickElsewhereStillRunsWhileAcabeiWrapsTheFocus) {
   Montar({.ab = 30});
   PrepararPlayer();
+  vb::Engine::Get().RunFocusEvents();  // back in the event loop, as after any turn
   F().CmdAcabei(0).SetFocus();
+  vb::Engine::Get().RunFocusEvents();
   ASSERT_TRUE(FocoAcabei);
   ASSERT_TRUE(Click("CmdDesfazer", 0));
   EXPECT_EQ(MesaPote, 0);

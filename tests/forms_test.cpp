@@ -63,15 +63,37 @@ TEST_F(FormsTest, TabOrderAndFocusEvents) {
   main->SendKeys("{TAB}");
   main->SendKeys("+{TAB}");
   EXPECT_EQ(main->ActiveControl(), &pics(1));
+  // The focus moves at once; its events wait until the code hands control back.
+  EXPECT_TRUE(log.empty());
+  vb::DoEvents();
   EXPECT_EQ(log,
             (std::vector<std::string>{"got0", "lost0", "got1", "lost1", "got2", "lost2", "got1"}));
 }
 
+TEST_F(FormsTest, FocusEventsRunBeforeAClickAndAfterItsHandler) {
+  std::vector<std::string> order;
+  button->GotFocus = [&] { order.push_back("got button"); };
+  button->Click = [&] {
+    order.push_back("click");
+    pics(2).SetFocus();
+  };
+  pics(0).SetFocus();
+  vb::Engine::Get().RunFocusEvents();
+  log.clear();
+  ASSERT_TRUE(vb::Engine::Get().Deliver(Click("CmdOk")));
+  // The press: the old control's LostFocus and the button's GotFocus come before its click; the
+  // focus that the click itself moves is served when the click is done.
+  EXPECT_EQ(order, (std::vector<std::string>{"got button", "click"}));
+  EXPECT_EQ(log, (std::vector<std::string>{"lost0", "got2"}));
+}
+
 TEST_F(FormsTest, DisablingTheFocusedControlMovesTheFocusOnAndStillFiresLostFocus) {
   pics(1).SetFocus();
+  vb::DoEvents();
   log.clear();
   pics(1).Enabled = false;
   EXPECT_EQ(main->ActiveControl(), &pics(2));
+  vb::DoEvents();
   EXPECT_EQ(log, (std::vector<std::string>{"lost1", "got2"}));
   // The tab order skips what cannot take the focus.
   pics(2).Visible = false;

@@ -187,6 +187,8 @@ TEST_F(HandCycle, HerFirstMoveThenThePlayersTurn) {
     }
     for (int i = 0; i <= 4; ++i) EXPECT_FALSE(F().PicCartasPlayer(i).Visible) << i;
     EXPECT_EQ(F().ActiveControl(), &F().PicFichasPlayer(0));
+    // Its focus rectangle shows: the focus events ran once the turn was open.
+    for (int k = 0; k < 4; ++k) EXPECT_TRUE(F().FraFichasFocus(k).Visible) << k;
     // And the player's input is taken: a chip goes to the table.
     EXPECT_TRUE(Chip(2));
     EXPECT_EQ(MesaPote, 1);

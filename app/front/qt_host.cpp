@@ -42,6 +42,10 @@ void QtHost::Fire() {
 }
 
 void QtHost::ServeEvents() {
+  // Focus events queued by the waiting code run first, as the first thing the queue serves.
+  bool ran = false;
+  Guarded([&] { ran = vb::Engine::Get().RunFocusEvents(); });
+  if (ran) return;
   Arm();
   // Sleeps until something happens, then serves what is pending once. A tick of the game's
   // timers comes in as our QTimer's timeout and runs inside this call.
