@@ -10,10 +10,6 @@ namespace {
 FaseVar::Observer g_fase_observer = nullptr;
 }
 
-FaseVar::operator int() const {
-  return static_cast<int>(vb::Val(text_));
-}
-
 FaseVar& FaseVar::operator=(int value) {
   // A fixed two-character text: a one-digit phase is padded with a blank.
   std::string text = vb::LongText(value);
@@ -21,6 +17,7 @@ FaseVar& FaseVar::operator=(int value) {
   text.resize(2);
   if (g_fase_observer && text != text_) g_fase_observer(text_, text);
   text_ = std::move(text);
+  number_ = static_cast<int>(vb::Val(text_));
   return *this;
 }
 

@@ -17,7 +17,7 @@
 // to text and read as a number; blank (before the first hand) reads as 0.
 class FaseVar {
  public:
-  operator int() const;  // NOLINT: the game compares the phase as a number everywhere
+  operator int() const { return number_; }  // NOLINT: the game compares it as a number everywhere
   FaseVar& operator=(int value);
   const std::string& Text() const { return text_; }
 
@@ -26,6 +26,7 @@ class FaseVar {
 
  private:
   std::string text_;
+  int number_ = 0;  // the text read as a number, kept with it (blank reads 0)
 };
 
 using Deck = std::array<std::string, 53>;  // 1-based: Baralho(1) .. Baralho(52)
