@@ -8,6 +8,7 @@
 #include "opponent/leyendas.h"
 #include "opponent/troca.h"
 #include "platform/engine.h"
+#include "session/menu.h"
 #include "table/cards.h"
 #include "table/frm_principal.h"
 
@@ -54,6 +55,13 @@ void LigarEventos(FrmPrincipal& f) {
     place.LostFocus = [i] { PicFichasPlayer_LostFocus(i); };
     f.LabelPlayerFichasPOT(i).Click = [i] { LabelPlayerFichasPOT_Click(i); };
   }
+
+  f.MnuLimite.Click = MnuLimite_Click;
+  f.MnuFullxCor.Click = MnuFullxCor_Click;
+  f.MnuTrioXEscada.Click = MnuTrioXEscada_Click;
+  f.MnuMusica.Click = MnuMusica_Click;
+  f.MnuEfeitos.Click = MnuEfeitos_Click;
+  f.MnuSair.Click = MnuSair_Click;
 
   f.ToolbarPlayer.ButtonClick = [](vb::ToolbarButton& b) { ToolbarPlayer_ButtonClick(b.Index()); };
   for (int i = 0; i <= 4; ++i) {

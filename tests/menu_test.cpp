@@ -1,0 +1,75 @@
+// The menu's switches between hands: the house rules, the limit, the sound, leaving.
+#include "session/menu.h"
+
+#include <algorithm>
+
+#include "game_fixture.h"
+
+namespace {
+
+class Menu : public GameTest {
+ protected:
+  void SetUp() override {
+    GameTest::SetUp();
+    IniciarJogo();
+    ASSERT_TRUE(Click("CmdSair", 0));  // give the first hand up: the menu works at Fase 50
+    ASSERT_EQ(static_cast<int>(Fase), 50);
+  }
+  bool Choose(const std::string& entry) {
+    return vb::Engine::Get().Deliver(On(entry, -1, vb::Input::Type::Menu));
+  }
+};
+
+TEST_F(Menu, HouseRulesAndTheLimitFollowTheirMarks) {
+  EXPECT_TRUE(TrioMataEscada);
+  ASSERT_TRUE(Choose("MnuTrioXEscada"));
+  EXPECT_FALSE(TrioMataEscada);
+  EXPECT_FALSE(F().MnuTrioXEscada.Checked);
+  ASSERT_TRUE(Choose("MnuFullxCor"));
+  EXPECT_TRUE(FullMataCor);
+  EXPECT_TRUE(F().MnuFullxCor.Checked);
+  ASSERT_TRUE(Choose("MnuLimite"));
+  EXPECT_FALSE(LimiteAbertura);
+  EXPECT_EQ(static_cast<int>(LimiteFichas), 990);  // the whole stake of chips
+  ASSERT_TRUE(Choose("MnuLimite"));
+  EXPECT_TRUE(LimiteAbertura);
+  EXPECT_EQ(static_cast<int>(LimiteFichas), 150);
+}
+
+TEST_F(Menu, EffectsTurnTheSoundOnForTheNextHand) {
+  ASSERT_TRUE(Choose("MnuEfeitos"));
+  EXPECT_TRUE(EfeitosOn);
+  vb::ClearMciSent();
+  ASSERT_TRUE(Click("CmdMaisUma"));
+  const auto& sent = vb::MciSent();
+  ASSERT_FALSE(sent.empty());
+  // She takes the table with its rattle, the tracks close, and the next shuffle plays its tune.
+  EXPECT_EQ(sent.front(), "Play MUSICAS\\EFEITOS\\FICHAS.WAV");
+  EXPECT_NE(std::find(sent.begin(), sent.end(), "Close All"), sent.end());
+  EXPECT_NE(std::find(sent.begin(), sent.end(), "Play MUSICAS\\MELODIAS\\BARAJANDO1.WAV"),
+            sent.end());
+}
+
+TEST_F(Menu, MusicOffStopsTheClockButNeverClosesTheTrack) {
+  ASSERT_TRUE(Choose("MnuEfeitos"));
+  ASSERT_TRUE(Choose("MnuMusica"));
+  EXPECT_TRUE(MusicaOn);
+  EXPECT_EQ(Trilha, 0);
+  vb::ClearMciSent();
+  ASSERT_TRUE(Choose("MnuMusica"));
+  EXPECT_FALSE(MusicaOn);
+  EXPECT_FALSE(F().Timer1.Enabled);
+  EXPECT_TRUE(vb::MciSent().empty());
+}
+
+TEST_F(Menu, LeavingUnloadsAndKeepsTheSeed) {
+  try {
+    Choose("MnuSair");
+    FAIL() << "the program should have ended";
+  } catch (const vb::ProgramEnded& e) {
+    EXPECT_EQ(e.how, vb::EndHow::Unloaded);
+  }
+  EXPECT_EQ(vb::GetSetting("Trevim", "Ramdomize", "Seed"), "0.6484358");
+}
+
+}  // namespace
