@@ -126,8 +126,6 @@ std::string SingleText(float value) {
     while (d.size() > 2 && d[0] == '0') d.erase(0, 1);
     exp = std::string("E") + sign + d;
   }
-  if (mant.rfind("0.", 0) == 0) return mant + exp;
-  if (mant.rfind("-0.", 0) == 0) return mant + exp;
   return mant + exp;
 }
 

@@ -10,11 +10,9 @@
 #include "chips/chips.h"
 #include "core/deck.h"
 #include "core/hand_cycle.h"
-#include "game_fixture.h"
 #include "opponent/leyendas.h"
 #include "opponent/troca.h"
-
-// Her answer past the first test of VezPokerFinal (defined beside it).
+#include "table_fixture.h"
 
 namespace {
 
@@ -27,54 +25,19 @@ float Band(int a, int b, int x) {
   return (x - a + 0.5f) / (b - a + 1);
 }
 
-using Hand5 = std::array<const char*, 5>;
 constexpr Hand5 kNada = {"KC", "JD", "9P", "7T", "3C"};      // nothing, king high
 constexpr Hand5 kParCinco = {"5C", "5D", "QP", "8T", "2C"};  // a pair of fives
 constexpr Hand5 kTrio = {"8C", "8D", "8P", "KT", "2D"};      // three eights
 constexpr Hand5 kCor = {"AC", "JC", "9C", "6C", "4C"};       // a flush
 
-class FinalRound : public GameTest {
+class FinalRound : public MesaMontada {
  protected:
-  // One side's stack built anew with `n` chips, spread over the four piles as at the start.
-  void Pilha(bool poker, int n, bool espalhar = true) {
-    vb::Control& bar = poker ? F().ToolbarPokerCoins : F().ToolbarPlayerCoins;
-    for (const Denominacao& d : kDenominacoes) {
-      bar.Button(d.botao).SetImage(ChavePilha(d, 0));
-      bar.Button(d.botao).SetEnabled(n > 0);
-    }
-    (poker ? FichasPoker : FichasPlayer) = 0;
-    PilhaDeFichas(poker, n);
-    if (espalhar && n > 0) TrocarFichas(poker, true);
-  }
-  // A stake laid on the table as chips: a stack of just those chips, moved whole.
-  void Aposta(bool poker, int n) {
-    Pilha(poker, n, false);
-    MoverFichas(poker, n, true);
-  }
-
   // The table as the final round finds it after the exchange: her chips and his in front of
   // them, the opening stakes lying on the table as chips, the centre pot, both hands; Fase 30 and
   // no stake of this round yet.
   void Mesa(int poker, int player, int apostas, int pote, int pingo = 1, const Hand5& dela = kNada,
             const Hand5& dele = kParCinco) {
-    IniciarJogo();
-    MoverFichas(true, 0, false);
-    MoverFichas(false, 0, false);
-    MesaApostas = 0;
-    MesaPote = 0;
-    MesaPingo = pingo;
-    FichasNaMesa();
-    Aposta(true, apostas);
-    Aposta(false, pote);
-    Pilha(true, poker);
-    Pilha(false, player);
-    AtualizarLabels();
-    for (int i = 1; i <= 5; ++i) {
-      CartasPoker[i] = dela[i - 1];
-      CartasPlayer[i] = dele[i - 1];
-    }
-    OrdenarCartas(true);
-    OrdenarCartas(false);
+    Dispor(poker, player, apostas, pote, pingo, dela, dele);
     ApostaPoker = TotalApostaPoker = ApostaPlayer = TotalApostaPlayer = 0;
     CartasTrocaPlayer = 0;
     Fase = 30;

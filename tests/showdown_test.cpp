@@ -11,15 +11,14 @@
 #include "chips/chips.h"
 #include "core/deck.h"
 #include "core/hand_cycle.h"
-#include "game_fixture.h"
 #include "opponent/leyendas.h"
 #include "platform/rnd.h"
 #include "platform/runtime.h"
 #include "platform/settings.h"
+#include "table_fixture.h"
 
 namespace {
 
-using Hand5 = std::array<const char*, 5>;
 constexpr Hand5 kNadaAs = {"AC", "JD", "9P", "7T", "3C"};    // nothing, ace high
 constexpr Hand5 kNadaRei = {"KD", "QC", "8P", "6T", "2D"};   // nothing, king high
 constexpr Hand5 kParCinco = {"5C", "5D", "QP", "8T", "2C"};  // a pair of fives
@@ -29,45 +28,13 @@ constexpr Hand5 kTrio = {"8C", "8D", "8P", "KT", "2D"};      // three eights
 constexpr Hand5 kCorCopas = {"AC", "JC", "9C", "6C", "4C"};  // a flush, ace high
 constexpr Hand5 kCorOuros = {"AD", "QD", "8D", "5D", "3D"};  // another, ace high
 
-class Showdown : public GameTest {
+class Showdown : public MesaMontada {
  protected:
-  void Pilha(bool poker, int n, bool espalhar = true) {
-    vb::Control& bar = poker ? F().ToolbarPokerCoins : F().ToolbarPlayerCoins;
-    for (const Denominacao& d : kDenominacoes) {
-      bar.Button(d.botao).SetImage(ChavePilha(d, 0));
-      bar.Button(d.botao).SetEnabled(n > 0);
-    }
-    (poker ? FichasPoker : FichasPlayer) = 0;
-    PilhaDeFichas(poker, n);
-    if (espalhar && n > 0) TrocarFichas(poker, true);
-  }
-  void Aposta(bool poker, int n) {
-    Pilha(poker, n, false);
-    MoverFichas(poker, n, true);
-  }
-
   // A hand that reached the showdown: the stakes on the table as chips, both hands dealt, her
   // cards face down, the showdown frame up.
   void Mesa(int poker, int player, int apostas, int pote, int pingo, const Hand5& dela,
             const Hand5& dele) {
-    IniciarJogo();
-    MoverFichas(true, 0, false);
-    MoverFichas(false, 0, false);
-    MesaApostas = 0;
-    MesaPote = 0;
-    MesaPingo = pingo;
-    FichasNaMesa();
-    Aposta(true, apostas);
-    Aposta(false, pote);
-    Pilha(true, poker);
-    Pilha(false, player);
-    AtualizarLabels();
-    for (int i = 1; i <= 5; ++i) {
-      CartasPoker[i] = dela[i - 1];
-      CartasPlayer[i] = dele[i - 1];
-    }
-    OrdenarCartas(true);
-    OrdenarCartas(false);
+    Dispor(poker, player, apostas, pote, pingo, dela, dele);
     for (int i = 1; i <= 5; ++i) F().ToolbarPoker.Button(2 * i).SetImage("FRENTE");
     EntrarConfronto();
     vb::ClearMciSent();
