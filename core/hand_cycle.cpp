@@ -21,6 +21,9 @@ std::string TrilhaTexto() {
   return vb::LongText(Trilha);
 }
 
+}  // namespace
+
+// A side's stack built as at the start of a game: empty piles, then NroFichas in change.
 void ConstruirPilhas(bool Poker) {
   auto& f = Frm_Principal();
   vb::Control& bar = Poker ? f.ToolbarPokerCoins : f.ToolbarPlayerCoins;
@@ -36,8 +39,6 @@ void ConstruirPilhas(bool Poker) {
   PilhaDeFichas(Poker, NroFichas);
   if ((Poker ? FichasPoker : FichasPlayer) > 0) TrocarFichas(Poker, true);
 }
-
-}  // namespace
 
 void Form_Initialize() {
   auto& f = Frm_Principal();

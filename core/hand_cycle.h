@@ -4,6 +4,7 @@
 #pragma once
 
 void Form_Initialize();
+void ConstruirPilhas(bool Poker);
 void Form_Unload(int& Cancel);
 void NovaMao();
 void CobrarPingo();

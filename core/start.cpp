@@ -56,6 +56,7 @@ void LigarEventos(FrmPrincipal& f) {
     f.LabelPlayerFichasPOT(i).Click = [i] { LabelPlayerFichasPOT_Click(i); };
   }
 
+  f.MnuNova.Click = MnuNova_Click;
   f.MnuLimite.Click = MnuLimite_Click;
   f.MnuFullxCor.Click = MnuFullxCor_Click;
   f.MnuTrioXEscada.Click = MnuTrioXEscada_Click;

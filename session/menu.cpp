@@ -1,6 +1,9 @@
 #include "session/menu.h"
 
+#include "chips/chips.h"
+#include "core/cards.h"
 #include "core/game_state.h"
+#include "core/hand_cycle.h"
 #include "platform/engine.h"
 #include "table/frm_principal.h"
 
@@ -10,6 +13,49 @@ bool Inverter(vb::Control& entry) {
   return entry.Checked;
 }
 }  // namespace
+
+// A new game: settings and chips as a new game has them (they differ from the program's start:
+// effects on, three of a kind no longer beats a straight). The hand count, the holder of the hand,
+// the card back and a tie on the table run on; the game begins at the next "Mais UMA".
+void MnuNova_Click() {
+  auto& f = Frm_Principal();
+  NroCartas = 52;
+  NroFichas = 990;
+  MaxTroca = 4;
+  f.MnuLimite.Checked = true;
+  LimiteFichas = 150;  // LimiteAbertura keeps its value: the mark and the flag may now disagree
+  FullMataCor = false;
+  f.MnuFullxCor.Checked = false;
+  TrioMataEscada = false;
+  f.MnuTrioXEscada.Checked = false;
+  ValorFicha = 5.0f;
+  MusicaOn = false;
+  Trilha = 0;
+  TocandoEfeito = 0;
+  f.MnuMusica.Checked = false;
+  EfeitosOn = true;
+  f.MnuEfeitos.Checked = true;
+  MeuNome = "Challenger";
+  f.MnuTrapassa.Checked = false;
+  VerBaralho = false;
+  f.MnuVerBaralho.Checked = false;
+  f.MnuVerBaralho.Enabled = false;
+  VerCartas = false;
+  f.MnuVerCartas.Checked = false;
+  f.MnuVerCartas.Enabled = false;
+  AjustarTela();
+  f.LabelPlayerCaption(0).Caption = MeuNome;
+  MontarFichas(true, true);
+  MesaPingo = 0;
+  FichasPlayer = 0;
+  FichasPoker = 0;
+  MesaApostas = 0;
+  MesaPote = 0;
+  ConstruirPilhas(true);
+  ConstruirPilhas(false);
+  AtualizarLabels();
+  EncherBaralho();
+}
 
 void MnuLimite_Click() {
   auto& f = Frm_Principal();

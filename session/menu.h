@@ -2,6 +2,7 @@
 // between hands.)
 #pragma once
 
+void MnuNova_Click();
 void MnuLimite_Click();
 void MnuFullxCor_Click();
 void MnuTrioXEscada_Click();

@@ -73,3 +73,33 @@ TEST_F(Menu, LeavingUnloadsAndKeepsTheSeed) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(Menu, NewGameResetsChipsAndRulesButNotTheHandCount) {
+  // ZEVA took the table of the first hand; a new game gives both sides their chips again.
+  ASSERT_TRUE(Click("CmdMaisUma"));
+  ASSERT_TRUE(Click("CmdSair", 0));
+  ASSERT_TRUE(Choose("MnuLimite"));  // the limit off before the new game
+  ASSERT_TRUE(Choose("MnuNova"));
+  EXPECT_EQ(FichasPlayer, 990);
+  EXPECT_EQ(FichasPoker, 990);
+  EXPECT_EQ(MesaPote + MesaApostas + MesaPingo, 0);
+  EXPECT_EQ(Caption(F().LabelPlayerFichas), "990 Fichas");
+  EXPECT_TRUE(EfeitosOn);
+  EXPECT_FALSE(TrioMataEscada);
+  EXPECT_FALSE(F().MnuTrioXEscada.Checked);
+  // The limit's mark shows on while the flag stays off, as a new game leaves them.
+  EXPECT_TRUE(F().MnuLimite.Checked);
+  EXPECT_FALSE(LimiteAbertura);
+  EXPECT_EQ(static_cast<int>(LimiteFichas), 150);
+  EXPECT_EQ(static_cast<int>(NroMao), 3);
+  EXPECT_EQ(Caption(F().LabelManoMesa), "mão 2");
+  EXPECT_EQ(Baralho[1], "AC");  // the deck back in list order
+  EXPECT_EQ(Baralho[52], "2T");
+  // The next hand is the third, held by ZEVA.
+  ASSERT_TRUE(Click("CmdMaisUma"));
+  EXPECT_EQ(Caption(F().LabelManoMesa), "mão 3");
+}
+
+}  // namespace
