@@ -20,6 +20,8 @@ void ResponderFinal();
 void ConfrontarJogos();
 
 // Steps shared by the commands and both rounds.
+// Both hands scored afresh, hers first, before she decides.
+void AnalisarJogos();
 void FecharAposta();
 void FecharPlayer();
 void AcertarPilhas();

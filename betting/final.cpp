@@ -13,11 +13,6 @@
 
 namespace {
 
-void Analisar() {
-  AnalisarJogo(true);
-  AnalisarJogo(false);
-}
-
 // Unlike the opening round's, this one tells the player what he won.
 void PokerDesiste() {
   Leyenda(true, "EUDESISTI", 0);
@@ -104,7 +99,7 @@ void ResponderFinal() {
       // B1: she has not bet in this round.
       Leyenda(false, "ELEAPOSTOU", MesaPote - MesaApostas);
       FecharPlayer();
-      Analisar();
+      AnalisarJogos();
       Desicion("CUBREFINAL1");
       if (ApostaPoker == 0) {
         PokerDesiste();
@@ -137,7 +132,7 @@ void ResponderFinal() {
       Leyenda(false, "ELEAUMENTOU", MesaPote - MesaApostas);
       Esperar(1, 200);
       FecharPlayer();
-      Analisar();
+      AnalisarJogos();
       Desicion("CUBREFINAL2");
       if (TotalApostaPoker == 0) {
         PokerDesiste();
@@ -161,7 +156,7 @@ void ResponderFinal() {
     // C1: the player passed; she is asked once more.
     Leyenda(false, "ELEPASSOU", 0);
     FecharPlayer();
-    Analisar();
+    AnalisarJogos();
     Desicion("FINAL");
     if (ApostaPoker == 0) {
       // Both passed: every chip of the hand goes to the centre and waits for the next hand.

@@ -13,11 +13,6 @@
 
 namespace {
 
-void Analisar() {
-  AnalisarJogo(true);
-  AnalisarJogo(false);
-}
-
 // She gives up: the player takes the whole table.
 void PokerDesiste() {
   Leyenda(true, "EUDESISTI", 0);
@@ -134,7 +129,7 @@ void VezPokerAbertura() {
     if (MesaApostas == 0) {
       Leyenda(false, "ELEABRIU", MesaPote);
       FecharPlayer();
-      Analisar();
+      AnalisarJogos();
       Desicion("CUBRE1");
       if (AberturaPoker == 0) {
         PokerDesiste();
@@ -145,7 +140,7 @@ void VezPokerAbertura() {
     }
     Leyenda(false, "ELEAUMENTOUABRE", MesaPote - MesaApostas);
     FecharPlayer();
-    Analisar();
+    AnalisarJogos();
     if (AumentoAberturaPoker == 0) {
       Desicion("CUBRE2");  // B2
       SegundoNivel();
@@ -181,7 +176,7 @@ void VezPokerAbertura() {
     // C0: the player passed.
     Leyenda(false, "ELEPASSOU", 0);
     FecharPlayer();
-    Analisar();
+    AnalisarJogos();
     Desicion("CUBRE1");
     if (AberturaPoker == 0) {
       // Both passed: no chip moves and the antes wait for the next hand.
@@ -234,7 +229,7 @@ void VezPokerAbertura() {
     // C3: level, her raise or her surrender; a 0 here is surrender even where she owes nothing.
     Leyenda(false, "ELECUBRIUABRE", AberturaPoker - AberturaPlayer);
     FecharPlayer();
-    Analisar();
+    AnalisarJogos();
     Desicion("CUBRE2");
     SegundoNivel();
   }

@@ -2,10 +2,16 @@
 #include "betting/betting.h"
 #include "chips/chips.h"
 #include "core/game_state.h"
+#include "evaluation/analisis.h"
 #include "opponent/troca.h"
 #include "platform/runtime.h"
 #include "sound/musicas.h"
 #include "table/frm_principal.h"
+
+void AnalisarJogos() {
+  AnalisarJogo(true);
+  AnalisarJogo(false);
+}
 
 void FecharAposta() {
   auto& f = Frm_Principal();
