@@ -475,27 +475,28 @@ struct MenuWord {
   const char* word;
   const char* entry;  // the menu control
   Argument argument;
+  const char* sample;  // a whole line with this word, for the random player
 };
 const MenuWord kMenuWords[] = {
-    {"nova", "MnuNova", Argument::None},
-    {"carregar", "MnuCarregar", Argument::None},
-    {"salvar", "MnuSalvar", Argument::None},
-    {"nrocartas", "MnuNroCartas", Argument::Count},
-    {"nrofichas", "MnuNroFichas", Argument::Count},
-    {"troca", "MnuTroca", Argument::Count},
-    {"vficha", "MnuVFicha", Argument::Text},
-    {"nome", "MnuNome", Argument::Text},
-    {"fundos", "MnuFundos", Argument::Designs},
-    {"limite", "MnuLimite", Argument::None},
-    {"fullxcor", "MnuFullxCor", Argument::None},
-    {"trioxescada", "MnuTrioXEscada", Argument::None},
-    {"musica", "MnuMusica", Argument::None},
-    {"efeitos", "MnuEfeitos", Argument::None},
-    {"trapassa", "MnuTrapassa", Argument::Text},
-    {"verbaralho", "MnuVerBaralho", Argument::None},
-    {"vercartas", "MnuVerCartas", Argument::None},
-    {"creditos", "MnuAbout", Argument::Milliseconds},
-    {"sair", "MnuSair", Argument::None},
+    {"nova", "MnuNova", Argument::None, "menu nova"},
+    {"carregar", "MnuCarregar", Argument::None, "menu carregar"},
+    {"salvar", "MnuSalvar", Argument::None, "menu salvar"},
+    {"nrocartas", "MnuNroCartas", Argument::Count, "menu nrocartas 3"},
+    {"nrofichas", "MnuNroFichas", Argument::Count, "menu nrofichas 1"},
+    {"troca", "MnuTroca", Argument::Count, "menu troca 2"},
+    {"vficha", "MnuVFicha", Argument::Text, "menu vficha \"7,50\""},
+    {"nome", "MnuNome", Argument::Text, "menu nome \"Ana\""},
+    {"fundos", "MnuFundos", Argument::Designs, "menu fundos 4 aplicar"},
+    {"limite", "MnuLimite", Argument::None, "menu limite"},
+    {"fullxcor", "MnuFullxCor", Argument::None, "menu fullxcor"},
+    {"trioxescada", "MnuTrioXEscada", Argument::None, "menu trioxescada"},
+    {"musica", "MnuMusica", Argument::None, "menu musica"},
+    {"efeitos", "MnuEfeitos", Argument::None, "menu efeitos"},
+    {"trapassa", "MnuTrapassa", Argument::Text, "menu trapassa \"OBaralhoLimpo  \""},
+    {"verbaralho", "MnuVerBaralho", Argument::None, "menu verbaralho"},
+    {"vercartas", "MnuVerCartas", Argument::None, "menu vercartas"},
+    {"creditos", "MnuAbout", Argument::Milliseconds, "menu creditos 500"},
+    {"sair", "MnuSair", Argument::None, "menu sair"},
 };
 
 // The words of a line up to its comment.
@@ -881,6 +882,14 @@ std::vector<std::string> Session::LegalActions() const {
   // The same questions Play asks of the screen, on controls found once.
   const Controls& c = Found(impl_->controls, f);
   using T = vb::Input::Type;
+  // Between hands, the right-click menu: one line for each entry it offers
+  // (first, so that the table's own buttons end the list).
+  if (Fase == 50 && !engine.TopModal()) {
+    for (const MenuWord& m : kMenuWords) {
+      const vb::Control* entry = f.Find(m.entry);
+      if (engine.Accepts(T::Menu, &f, entry)) actions.push_back(m.sample);
+    }
+  }
   if (FaseDeApostas()) {
     for (int d = 0; d < 4; ++d) {
       const Denominacao& den = kDenominacoes[d];
