@@ -18,6 +18,7 @@
 #include "platform/runtime.h"
 #include "platform/settings.h"
 #include "platform/virtual_host.h"
+#include "session/sel_fundos.h"
 #include "table/frm_principal.h"
 
 namespace replay {
@@ -518,6 +519,34 @@ std::string SingleNumber(float value) {
   return std::string(buf, end);
 }
 
+// The chooser: the design chosen, the position of the design store that each of the ten places
+// shows, and the preview's five cards as positions of that store (0 where nothing shows).
+std::string ChooserFields(const FrmSelFundos& chooser) {
+  auto positions = [&](auto place, int count) {
+    std::string list;
+    for (int i = 1; i <= count; ++i) {
+      const vb::ToolbarButton& b = place(i);
+      int position = b.ImagePosition();
+      if (!position && !b.ImageKey().empty()) {
+        // A keyed picture of the preview store: the design it was copied from.
+        const std::string picture = b.PictureShown();
+        for (int p = 1; p <= chooser.ImageListReves.Count() && !position; ++p)
+          if (chooser.ImageListReves.PictureOf(p) == picture) position = p;
+      }
+      list += (i > 1 ? ", " : "") + std::to_string(position);
+    }
+    return "[" + list + "]";
+  };
+  auto design = [&](int i) -> const vb::ToolbarButton& {
+    return chooser.ToolbarCartas(i <= 5 ? 1 : 2).Button(2 * (i <= 5 ? i : i - 5));
+  };
+  auto preview = [&](int i) -> const vb::ToolbarButton& {
+    return chooser.ToolbarCartas(3).Button(2 * i);
+  };
+  return ", \"Selecionado\": " + std::to_string(chooser.Selecionado) +
+         ", \"places\": " + positions(design, 10) + ", \"preview\": " + positions(preview, 5);
+}
+
 }  // namespace
 
 bool Session::PlayMenu(const std::string& line, int line_number) {
@@ -670,6 +699,8 @@ void Session::EmitDialog(const vb::Form& form) {
     text("Text1");
   } else if (name == "frmAbout") {
     caption("lblVersion");
+  } else if (name == "FrmSelFundos") {
+    fields += ChooserFields(static_cast<const FrmSelFundos&>(form));
   }
   Emit("dialog", fields);
 }
