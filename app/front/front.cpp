@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include "front/guard.h"
@@ -451,6 +452,9 @@ void Front::ShowOrHide(vb::Form& form) {
   if (!win->placed) Place(*win);
   win->show();
   win->activateWindow();
+  // A menu that opened the dialog hands the focus back to the table as it closes, after this:
+  // the dialog takes it once more when the queue is served.
+  if (form.modal) QTimer::singleShot(0, win, [win] { win->activateWindow(); });
   if (vb::Control* active = form.ActiveControl())
     if (QWidget* w = widgets_.value(active)) w->setFocus(Qt::ActiveWindowFocusReason);
 }
@@ -483,6 +487,17 @@ void Front::Deliver(const vb::Input& input) {
 
 bool Front::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
+    case QEvent::WindowActivate:
+      // A window behind an open dialog gives the activation on to the dialog, which stays above.
+      if (vb::Form* top = vb::Engine::Get().TopModal()) {
+        FormWindow* dialog = windows_.value(top);
+        if (dialog && dialog != watched && dialog->isVisible() &&
+            qobject_cast<FormWindow*>(watched)) {
+          dialog->raise();
+          dialog->activateWindow();
+        }
+      }
+      return false;
     case QEvent::KeyPress:
       return watched->isWidgetType() && KeyEvent(static_cast<QWidget*>(watched), event);
     case QEvent::MouseButtonPress:
@@ -537,6 +552,12 @@ bool Front::KeyEvent(QWidget* w, QEvent* event) {
   auto* ke = static_cast<QKeyEvent*>(event);
   const int code = KeyCodeOf(ke->key());
   if (code == 0) return false;
+  // Esc closes a dialog as its close box does; so does Enter in its text box, the way a player
+  // ends typing a name or a value.
+  if (!win->form().is_main && (code == 27 || (code == 13 && qobject_cast<QLineEdit*>(w)))) {
+    Deliver(InputOn(vb::Input::Type::Close, win->form()));
+    return true;
+  }
   if (qobject_cast<QLineEdit*>(w) && code != 9 && code != 13 && code != 27) return false;
   vb::Input in = InputOn(vb::Input::Type::Key, win->form());
   in.key_code = code;
