@@ -23,10 +23,22 @@ int Numero(std::string_view field) {
 }
 
 // A whole number with at least two digits, as Format(v, "00") writes it.
+// Texts here are built by appending only: GCC 12 at -O3 warns falsely (-Wrestrict) inside
+// std::string when a text is put in front of a temporary one.
 std::string DoisDigitos(int v) {
-  std::string digits = vb::LongText(v < 0 ? -std::int64_t{v} : v);
-  if (digits.size() < 2) digits.insert(0, 1, '0');
-  return v < 0 ? "-" + digits : digits;
+  const std::string digits = vb::LongText(v < 0 ? -std::int64_t{v} : v);
+  std::string text = v < 0 ? "-" : "";
+  if (digits.size() < 2) text += '0';
+  text += digits;
+  return text;
+}
+
+// A hand code: its class and one or two values.
+std::string Codigo(const char* classe, int valor1, int valor2 = -1) {
+  std::string codigo = classe;
+  codigo += DoisDigitos(valor1);
+  if (valor2 >= 0) codigo += DoisDigitos(valor2);
+  return codigo;
 }
 
 // The two digits of a rank character: Ace 14 down to Ten (D) 10; any other character is a zero
@@ -35,7 +47,9 @@ std::string DigitosDoValor(std::string_view rank) {
   static constexpr std::string_view kFiguras = "AKQJD";
   const std::size_t figura = rank.empty() ? std::string_view::npos : kFiguras.find(rank[0]);
   if (figura != std::string_view::npos) return std::to_string(14 - static_cast<int>(figura));
-  return "0" + std::string(rank);
+  std::string digits = "0";
+  digits += rank;
+  return digits;
 }
 
 // MaisBaixa, the lowest card of the ace-low straight, by deck size. The second row is 46 and not
@@ -88,10 +102,9 @@ std::string JogoDaMao(bool Lado) {
   int seq_iguais = 1;
   while (seq_iguais < 5 && valor[seq_iguais + 1] == esperado) ++seq_iguais, --esperado;
 
-  const std::string primeira = DoisDigitos(valor[1]);
-  if (seq_iguais == 5 && naipes_iguais == 5) return "ER" + primeira;
-  if (seq_iguais == 5) return "ES" + primeira;
-  if (naipes_iguais == 5) return "CO" + primeira;
+  if (seq_iguais == 5 && naipes_iguais == 5) return Codigo("ER", valor[1]);
+  if (seq_iguais == 5) return Codigo("ES", valor[1]);
+  if (naipes_iguais == 5) return Codigo("CO", valor[1]);
 
   std::array<int, 15> conta_valor{};
   for (int i = 1; i <= 5; ++i) {
@@ -114,12 +127,12 @@ std::string JogoDaMao(bool Lado) {
       (pares == 1 ? valor_par1 : valor_par2) = v;
     }
   }
-  if (quadra) return "PO" + DoisDigitos(valor_quadra);
-  if (trinca && pares == 1) return "FU" + DoisDigitos(valor_trinca);
-  if (trinca) return "PI" + DoisDigitos(valor_trinca);
-  if (pares == 2) return "P2" + DoisDigitos(valor_par2) + DoisDigitos(valor_par1);
-  if (pares == 1) return "P1" + DoisDigitos(valor_par1);
-  return "NN" + primeira;
+  if (quadra) return Codigo("PO", valor_quadra);
+  if (trinca && pares == 1) return Codigo("FU", valor_trinca);
+  if (trinca) return Codigo("PI", valor_trinca);
+  if (pares == 2) return Codigo("P2", valor_par2, valor_par1);
+  if (pares == 1) return Codigo("P1", valor_par1);
+  return Codigo("NN", valor[1]);
 }
 
 std::int32_t PontosDoJogo(std::string_view Jogo, std::string_view Valores) {
@@ -142,9 +155,9 @@ std::int32_t PontosDoJogo(std::string_view Jogo, std::string_view Valores) {
   } else if (classe == "ES") {
     base = TrioMataEscada ? "300" : "400";
   } else if (classe == "P2") {
-    base = "2" + DoisDigitos(Numero(Mid(Jogo, 3, 2)) + Numero(Mid(Jogo, 5, 2)));
+    base = Codigo("2", Numero(Mid(Jogo, 3, 2)) + Numero(Mid(Jogo, 5, 2)));
   } else if (classe == "P1") {
-    base = "1" + DoisDigitos(Numero(Mid(Jogo, 3, 2)));
+    base = Codigo("1", Numero(Mid(Jogo, 3, 2)));
   }
 
   // The sum of the five card values.
@@ -153,7 +166,10 @@ std::int32_t PontosDoJogo(std::string_view Jogo, std::string_view Valores) {
 
   // The score is the base, the values of the code and the sum written side by side, read as a
   // number.
-  return vb::CLng(vb::Val(base + std::string(Mid(Jogo, 3, 2)) + vb::LongText(soma)));
+  std::string texto = base;
+  texto += Mid(Jogo, 3, 2);
+  texto += vb::LongText(soma);
+  return vb::CLng(vb::Val(texto));
 }
 
 void AnalisarJogo(bool Lado) {

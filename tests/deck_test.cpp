@@ -97,7 +97,7 @@ TEST_P(ShuffleStatistics, PartnersAndCountLieIn15ToTamanhoWithHalfWeightEnds) {
   const int t = GetParam().tamanho;
   std::map<int, int> n_seen, j_seen;
   std::vector<std::string> label(53);
-  for (int p = 1; p <= 52; ++p) label[p] = "L" + std::to_string(p);
+  for (int p = 1; p <= 52; ++p) label[p] = std::to_string(p).insert(0, 1, 'L');
 
   for (int s = 0; s < GetParam().shuffles; ++s) {
     for (int p = 1; p <= 52; ++p) Baralho[p] = label[p];

@@ -146,7 +146,7 @@ TEST_F(HandCycle, HerFirstMoveThenThePlayersTurn) {
     for (const auto& f : dela) EXPECT_EQ(f.nome, "Poker (ZEVA)");
     if (c.abre) {
       ASSERT_GT(AberturaPoker, 0);
-      const std::string fichas = " " + std::to_string(AberturaPoker) + " Fichas";
+      const std::string fichas = std::string(" ").append(std::to_string(AberturaPoker)) + " Fichas";
       EXPECT_EQ(FichasPoker, 989 - AberturaPoker);
       EXPECT_EQ(static_cast<int>(MesaApostas), AberturaPoker);
       EXPECT_EQ(Caption(F().LabelPokerFichas), std::to_string(989 - AberturaPoker) + " Fichas");
