@@ -11,13 +11,14 @@
 #include "core/cards.h"
 #include "core/deck.h"
 #include "core/game_state.h"
+#include "core/start.h"
 
 namespace {
 
 class AnalisisTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
+    ResetProcess();
     NroCartas = 52;
     FullMataCor = false;  // the rules the program starts with
     TrioMataEscada = true;

@@ -106,14 +106,10 @@ class BettingTest : public GameTest {
     Corte() = {};
     Roteiro().clear();
     Falas().clear();
+  }
+  void Watch() override {
     g_depois_da_fala = Ouvir;
     FaseVar::Observe(FaseMudou);
-  }
-  void TearDown() override {
-    g_depois_da_fala = nullptr;
-    g_ajustes_iniciais = nullptr;
-    FaseVar::Observe(nullptr);
-    GameTest::TearDown();
   }
 
   // What the round leaves before it hands the table to the exchange: the first move of the phase

@@ -10,6 +10,7 @@
 
 #include "core/cards.h"
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/rnd.h"
 #include "platform/runtime.h"
 #include "platform/settings.h"
@@ -18,13 +19,8 @@ namespace {
 
 class DeckTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    ResetGameState();
-    vb::InstallSettings(nullptr);
-    vb::ScriptRnd({});
-    vb::SetRndState(20240611);
-  }
-  void TearDown() override { vb::InstallSettings(nullptr); }
+  void SetUp() override { ResetProcess(20240611); }
+  void TearDown() override { ResetProcess(); }
 };
 
 int ErrorOf(void (*f)()) {

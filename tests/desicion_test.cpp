@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/rnd.h"
 
 namespace {
@@ -25,7 +26,7 @@ constexpr float kUnused = 0.5f;         // must still be in the script after the
 class DesicionTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
+    ResetProcess();
     vb::ScriptRnd({});
     MaxTroca = 4;
     LimiteAbertura = true;

@@ -59,14 +59,10 @@ class HandCycle : public GameTest, public vb::Listener {
     GameTest::SetUp();
     g_falas.clear();
     g_momentos.clear();
+  }
+  void Watch() override {
     g_depois_da_fala = GuardarFala;
     FaseVar::Observe(GuardarFase);
-  }
-  void TearDown() override {
-    g_depois_da_fala = nullptr;
-    g_ajustes_iniciais = nullptr;
-    FaseVar::Observe(nullptr);
-    GameTest::TearDown();
   }
   void Comecar(std::uint64_t estado) {
     Fresh(estado);
@@ -340,7 +336,6 @@ TEST_F(HandCycle, ClosingAWindowDuringAWaitUnloadsAndSavesTheSeed) {
       if (m.find("CARTAINI") != std::string::npos || m.find("CARTASHOW") != std::string::npos)
         ++cartas;
     EXPECT_EQ(cartas, c.cartas_com_som);
-    g_ajustes_iniciais = nullptr;
   }
 }
 
@@ -373,7 +368,6 @@ TEST_F(HandCycle, TheShownDeckIsLaidAfterTheHands) {
       for (int i = 1; i <= 52; ++i)
         EXPECT_EQ(F().ToolbarBaraja.Button(i).ImageKey(), i <= 20 ? Baralho[i] : "") << i;
     }
-    g_ajustes_iniciais = nullptr;
   }
 }
 

@@ -7,21 +7,15 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/rnd.h"
 
 namespace {
 
 class LeyendaTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    ResetGameState();
-    vb::ScriptRnd({});
-    g_leyenda_screen = nullptr;
-  }
-  void TearDown() override {
-    vb::ScriptRnd({});
-    g_leyenda_screen = nullptr;
-  }
+  void SetUp() override { ResetProcess(); }
+  void TearDown() override { ResetProcess(); }
 
   // The speech of a drawn key with Rnd scripted to one value.
   static Fala Sorteada(const std::string& chave, float rnd, int fichas = 0) {

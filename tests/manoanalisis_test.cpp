@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/runtime.h"
 
 namespace {
@@ -33,7 +34,7 @@ Cartas Lista(const std::string& texto) {
 class ManoAnalisisTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
+    ResetProcess();
     NroCartas = 52;
     MaxTroca = 4;
   }

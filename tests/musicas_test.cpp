@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/app_path.h"
 #include "platform/mci.h"
 #include "platform/rnd.h"
@@ -19,9 +20,7 @@ const std::string kPrograma = "C:\\ZEVA\\BIN";
 class MusicasTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
-    vb::ClearMciSent();
-    vb::ScriptRnd({});
+    ResetProcess();
     vb::SetAppPath(kPrograma);
   }
   void TearDown() override {

@@ -609,6 +609,12 @@ TEST_F(Abertura, TheWarningOfAnEmptyTurnOutlivesTheHand) {
 // the first hand takes the wanted road, and the round is then checked where it ended.
 class RodadaAbertura : public BettingTest {
  protected:
+  // The settings of every fresh start, applied as the menu would.
+  void (*ajustes)() = nullptr;
+  void Watch() override {
+    BettingTest::Watch();
+    g_ajustes_iniciais = ajustes;
+  }
   // Tries generator states from 1 until `jogada` (played on a fresh start) says yes; the table
   // is left as that play ended.
   std::uint64_t Semear(const std::function<bool()>& jogada) {
@@ -691,7 +697,7 @@ TEST_F(RodadaAbertura, HerPassAndThePlayersPassVoidTheHand) {
 // With a short stack under the limit his all-in moves no chip: the table reads a pass, and she
 // opens against it.
 TEST_F(RodadaAbertura, AStakeThatMovedNothingAndHerOpening) {
-  g_ajustes_iniciais = [] {
+  ajustes = [] {
     NroFichas = 100;
     LimiteFichas = 150;
   };

@@ -11,6 +11,7 @@
 
 #include "core/cards.h"
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/engine.h"
 #include "platform/runtime.h"
 #include "platform/virtual_host.h"
@@ -21,13 +22,8 @@ namespace {
 
 class TableTest : public ::testing::Test {
  protected:
-  void SetUp() override { Fresh(); }
-  void TearDown() override { Fresh(); }
-  static void Fresh() {
-    vb::Engine::Get().Reset();
-    DestruirFormularios();
-    ResetGameState();
-  }
+  void SetUp() override { ResetProcess(); }
+  void TearDown() override { ResetProcess(); }
 };
 
 // The run-time error number that `action` ends the program with, 0 if none.

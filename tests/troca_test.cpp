@@ -55,14 +55,7 @@ std::string Codigo(const std::string& trabalho) {
 
 class Troca : public GameTest, public vb::Listener {
  protected:
-  void SetUp() override {
-    GameTest::SetUp();
-    g_depois_da_fala = GuardarFala;
-  }
-  void TearDown() override {
-    g_depois_da_fala = nullptr;
-    GameTest::TearDown();
-  }
+  void Watch() override { g_depois_da_fala = GuardarFala; }
 
   void Comecar(std::uint64_t estado) {
     Fresh(estado);
