@@ -422,4 +422,13 @@ TEST_F(HandCycle, TheMusicClockShowsItsCount) {
                 "    TRILHA = 0  Jogosessao = 10");
 }
 
+TEST(GameState, FaseIsATwoCharacterText) {
+  ResetProcess();
+  Fase = 0;
+  EXPECT_EQ(Fase.Text(), "0 ");
+  Fase = 31;
+  EXPECT_EQ(Fase.Text(), "31");
+  EXPECT_TRUE(Fase >= 30 && Fase < 40);
+}
+
 }  // namespace
