@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/game_state.h"
+#include "core/speeds.h"
 #include "platform/app_path.h"
 #include "platform/engine.h"
 #include "platform/runtime.h"
@@ -53,7 +54,7 @@ void FrmBarajando::ComecarPasso() {
   LabelBaralhando.Caption = "B a r a l h a n d o . . .";
   Caption = "  B a r a l h a n d o   a s   " + Espacado(NroCartas) + "   c a r t a s";
   ContaQuadros = 0;
-  Timer1.Interval = 100;
+  Timer1.Interval = kIntervaloBaralhar;
   Timer1.Enabled = true;
 }
 
@@ -71,8 +72,8 @@ void FrmBarajando::Timer1_Timer() {
   Caption = Caption.get() + " .";
   ++ContaQuadros;
   if (ContaQuadros < kQuadrosPorPasso) {
-    // Only the first tick of a pass waits 100 ms.
-    Timer1.Interval = 50;
+    // Only the first tick of a pass waits the longer interval.
+    Timer1.Interval = kIntervaloFimDoPasso;
     return;
   }
   // The end of a pass: the cards go back (the right one ten units further out than it started)

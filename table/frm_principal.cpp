@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/speeds.h"
 #include "platform/engine.h"
 #include "table/image_stores.h"
 
@@ -303,7 +304,7 @@ FrmPrincipal::FrmPrincipal() : vb::Form("Frm_Principal") {
   Timer1.timer_order = 0;
   Timer1.Enabled = true;  // no interval yet: the music clock starts with the first hand
   TimerKeyPot.timer_order = 1;
-  TimerKeyPot.Interval = 100;
+  TimerKeyPot.Interval = kIntervaloTeclaPote;
   TimerKeyPot.Enabled = true;  // fires once after the form starts and switches itself off
   TimerEspera.timer_order = 3;
   TimerEspera.Enabled = false;

@@ -6,13 +6,13 @@
 #
 #   tools/artgen/generate.sh [build-dir] [contact-sheet.png]
 #
-# build-dir defaults to /work/build-artgen; the contact sheet (every 1x picture
+# build-dir defaults to build-artgen at the top of the repository; the contact sheet (every 1x picture
 # with its name) defaults to <build-dir>/contact_sheet.png.
 set -eu
 
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../.." && pwd)
-build=${1:-/work/build-artgen}
+build=${1:-$root/build-artgen}
 sheet=${2:-$build/contact_sheet.png}
 
 # The generator is configured on its own, so it builds whatever state the rest

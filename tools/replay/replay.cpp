@@ -162,13 +162,7 @@ void FaseMudou(const std::string& /*from*/, const std::string& to) {
 
 Session::Session(const Options& options, std::ostream* out)
     : options_(options), out_(out), impl_(nullptr) {
-  vb::Engine::Get().Reset();
-  DestruirFormularios();
-  ResetGameState();
-  vb::ScriptRnd({});
-  vb::SetRndState(options.seed);
-  vb::InstallSettings(nullptr);  // a replay never touches the player's stored seed
-  vb::ClearMciSent();
+  ResetProcess(options.seed);  // with the in-memory settings: the player's stored seed is untouched
   impl_ = new Impl();
   impl_->observer.session = this;
   impl_->host.modal_driver = [this] { return DriveDialog(); };
