@@ -10,6 +10,7 @@
 #include "core/game_state.h"
 #include "platform/engine.h"
 #include "table/image_stores.h"
+#include "table/nomes.h"
 
 namespace {
 
@@ -332,6 +333,8 @@ FrmPrincipal::FrmPrincipal() : vb::Form("Frm_Principal") {
   }
   ToolbarPlayerCoins.MouseDown = ToolbarPlayerCoins_MouseDown;
   ToolbarPlayer.MouseDown = ToolbarPlayer_MouseDown;
+
+  NomearControles(*this);
 }
 
 FrmPrincipal& Frm_Principal() {
