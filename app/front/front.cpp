@@ -119,11 +119,10 @@ Front::~Front() {
   qApp->removeEventFilter(this);
   vb::Engine::Get().RemoveListener(this);
   InstallAccessibility(nullptr);
-  // Dialogs first: they are children of the table's window.
-  for (FormWindow* w : std::as_const(windows_))
-    if (w->parentWidget()) delete w;
-  for (FormWindow* w : std::as_const(windows_))
-    if (!w->parentWidget()) delete w;
+  // Dialogs go with the table's window, their parent.
+  QList<QPointer<FormWindow>> all;
+  for (FormWindow* w : std::as_const(windows_)) all << w;
+  for (const QPointer<FormWindow>& w : all) delete w.data();
 }
 
 QWidget* Front::WidgetOf(const vb::Control& control) const {

@@ -270,7 +270,8 @@ void FormWindow::SetScale(double scale) {
 }
 
 void FormWindow::resizeEvent(QResizeEvent*) {
-  if (!resizable_) return Fit();
+  // A size made from the scale keeps that scale exactly.
+  if (!resizable_ || size() == base_ * scale_) return Fit();
   const double scale = FitScale(size(), base_);
   const bool changed = scale != scale_;
   scale_ = scale;
