@@ -299,6 +299,7 @@ class Form : public Control {
   const std::vector<Control*>& timers() const { return timers_; }
 
   std::function<void()> Load;
+  std::function<void()> Activate;  // the form became the active window on being shown
   std::function<void(int& cancel)> Unload;
 
   bool Loaded() const { return loaded_; }

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,10 @@ class VirtualHost : public Host {
   // At the top level (no handler running): let the clock run for `ms`, serving timers and queued
   // input as they come due.
   void RunFor(std::int64_t ms);
+
+  // A scripted player at a modal form: while one is up, each wait first asks the driver to act
+  // (one action a call); it returns false when it has nothing to do at that moment.
+  std::function<bool()> modal_driver;
 
   // What happened to queued input the screen refused, and the popups shown.
   std::vector<Input> refused;

@@ -5,12 +5,30 @@
 #include "core/game_state.h"
 #include "core/hand_cycle.h"
 #include "platform/engine.h"
+#include "session/dialogs.h"
 #include "table/frm_principal.h"
 
 namespace {
 bool Inverter(vb::Control& entry) {
   entry.Checked = !entry.Checked;
   return entry.Checked;
+}
+
+// Both stacks swept and built again from NroFichas, as a new game has them.
+void RefazerFichas() {
+  MontarFichas(true, true);
+  MesaPingo = 0;
+  FichasPlayer = 0;
+  FichasPoker = 0;
+  MesaApostas = 0;
+  MesaPote = 0;
+  ConstruirPilhas(true);
+  ConstruirPilhas(false);
+  AtualizarLabels();
+}
+
+void Mostrar(vb::Form& dialogo) {
+  vb::Engine::Get().Show(dialogo, true);
 }
 }  // namespace
 
@@ -45,16 +63,38 @@ void MnuNova_Click() {
   f.MnuVerCartas.Enabled = false;
   AjustarTela();
   f.LabelPlayerCaption(0).Caption = MeuNome;
-  MontarFichas(true, true);
-  MesaPingo = 0;
-  FichasPlayer = 0;
-  FichasPoker = 0;
-  MesaApostas = 0;
-  MesaPote = 0;
-  ConstruirPilhas(true);
-  ConstruirPilhas(false);
-  AtualizarLabels();
+  RefazerFichas();
   EncherBaralho();
+}
+
+// A new deck size: the deck is filled again in order, so the next shuffle starts from there.
+void MnuNroCartas_Click() {
+  Mostrar(Frm_NumerodeCartas());
+  EncherBaralho();
+}
+
+// A new number of chips counts at once only while the first hand stands on the table; later it
+// waits for a new game.
+void MnuNroFichas_Click() {
+  Mostrar(Frm_NumerodeFichas());
+  if (NroMao == 2) RefazerFichas();
+}
+
+void MnuTroca_Click() {
+  Mostrar(Frm_QuantasCartas());
+}
+
+// The value of a chip can be changed only while the first hand stands on the table: later, the
+// dialog takes a value and the table goes back to 5.
+void MnuVFicha_Click() {
+  Mostrar(Frm_ValordaFicha());
+  if (NroMao != 2) ValorFicha = 5.0f;
+  AtualizarLabels();
+}
+
+void MnuNome_Click() {
+  Mostrar(Frm_MeuNome());
+  Frm_Principal().LabelPlayerCaption(0).Caption = MeuNome;
 }
 
 void MnuLimite_Click() {

@@ -1,8 +1,13 @@
-// The right-click menu's switches, which take effect from the next hand on. (It opens only
-// between hands.)
+// The right-click menu: a new game, the settings behind their dialogs and the switches, which take
+// effect from the next hand on. (It opens only between hands.)
 #pragma once
 
 void MnuNova_Click();
+void MnuNroCartas_Click();
+void MnuNroFichas_Click();
+void MnuTroca_Click();
+void MnuVFicha_Click();
+void MnuNome_Click();
 void MnuLimite_Click();
 void MnuFullxCor_Click();
 void MnuTrioXEscada_Click();
