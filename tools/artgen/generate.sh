@@ -1,7 +1,8 @@
 #!/bin/sh
 # Builds the artwork generator and paints every picture of the game into
-# assets/images (1x and @2x PNG files). The PNGs are kept in the repository, so
-# this only needs running after a drawing changes.
+# assets/images (1x and @2x PNG files), and the application icon into
+# assets/icon (SVG and PNG sizes). Both are kept in the repository, so this only
+# needs running after a drawing changes.
 #
 #   tools/artgen/generate.sh [build-dir] [contact-sheet.png]
 #
@@ -18,5 +19,5 @@ sheet=${2:-$build/contact_sheet.png}
 # of the project is in.
 cmake -S "$here" -B "$build" >/dev/null
 cmake --build "$build" --target pokerzeva-artgen -j2
-"$build/bin/pokerzeva-artgen" --out "$root/assets/images" --sheet "$sheet"
-echo "pictures written to $root/assets/images, contact sheet at $sheet"
+"$build/bin/pokerzeva-artgen" --out "$root/assets/images" --sheet "$sheet" --icon "$root/assets/icon"
+echo "pictures written to $root/assets/images and assets/icon, contact sheet at $sheet"

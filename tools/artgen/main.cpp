@@ -1,7 +1,7 @@
 // pokerzeva-artgen: paints every picture of PokerZEVA and writes them as PNG files.
 //
 //   pokerzeva-artgen --out assets/images [--sheet contact_sheet.png] [--zoom N]
-//                    [--only PREFIX]
+//                    [--only PREFIX] [--icon assets/icon]
 //   pokerzeva-artgen --check assets/images
 //
 // --check paints every picture and compares it with the files in the folder, pixel by pixel:
@@ -11,6 +11,8 @@
 // Each picture is painted three times from the same vector drawing: at 1x into
 // <name>.png, at 2x into <name>@2x.png and at 4x into <name>@4x.png. The output is deterministic: no
 // timestamps or text chunks are written and nothing random is used.
+// --icon writes the application icon as pokerzeva.svg and as
+// pokerzeva-48.png, -128.png and -256.png for the desktop's icon theme.
 #include <QDir>
 #include <QFileInfo>
 #include <QFont>
@@ -19,6 +21,7 @@
 #include <QImage>
 #include <QImageWriter>
 #include <QStringList>
+#include <QSvgGenerator>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -62,6 +65,43 @@ bool save(const QImage& img, const QString& path) {
     std::fprintf(stderr, "cannot write %s: %s\n", qPrintable(path),
                  qPrintable(writer.errorString()));
     return false;
+  }
+  return true;
+}
+
+// The application icon: the SVG from the same drawing the PNG sizes are painted from.
+bool writeIcon(const QString& dir) {
+  QDir().mkpath(dir);
+  const QString svgPath = dir + QStringLiteral("/pokerzeva.svg");
+  {
+    QSvgGenerator svg;
+    svg.setFileName(svgPath);
+    svg.setSize(QSize(artgen::kIconSize, artgen::kIconSize));
+    svg.setViewBox(QRect(0, 0, artgen::kIconSize, artgen::kIconSize));
+    svg.setResolution(96);
+    svg.setTitle(QStringLiteral("PokerZEVA"));
+    svg.setDescription(QStringLiteral("PokerZEVA"));
+    QPainter p;
+    if (!p.begin(&svg)) {
+      std::fprintf(stderr, "cannot write %s\n", qPrintable(svgPath));
+      return false;
+    }
+    p.setRenderHint(QPainter::Antialiasing, true);
+    artgen::paintIcon(p);
+  }
+  for (int size : {48, 128, 256}) {
+    QImage img(size, size, QImage::Format_ARGB32_Premultiplied);
+    img.fill(Qt::transparent);
+    {
+      QPainter p(&img);
+      p.setRenderHint(QPainter::Antialiasing, true);
+      p.scale(size / double(artgen::kIconSize), size / double(artgen::kIconSize));
+      artgen::paintIcon(p);
+    }
+    QImage out = img.convertToFormat(QImage::Format_ARGB32);
+    out.setDotsPerMeterX(2835);
+    out.setDotsPerMeterY(2835);
+    if (!save(out, dir + QStringLiteral("/pokerzeva-%1.png").arg(size))) return false;
   }
   return true;
 }
@@ -178,6 +218,7 @@ bool matches(const QImage& painted, const QString& path) {
 void usage() {
   std::fprintf(stderr,
                "usage: pokerzeva-artgen --out DIR [--sheet FILE.png] [--zoom N] [--only PREFIX]\n"
+               "       [--icon DIR]\n"
                "       pokerzeva-artgen --check DIR\n");
 }
 
@@ -192,6 +233,7 @@ int main(int argc, char** argv) {
   QString sheetPath;
   QString only;
   QString checkDir;
+  QString iconDir;
   int zoom = 1;
   const QStringList args = app.arguments();
   for (int i = 1; i < args.size(); ++i) {
@@ -207,14 +249,21 @@ int main(int argc, char** argv) {
       checkDir = args[++i];
     } else if (a == QLatin1String("--only") && hasValue) {
       only = args[++i];
+    } else if (a == QLatin1String("--icon") && hasValue) {
+      iconDir = args[++i];
     } else {
       usage();
       return 2;
     }
   }
-  if (outDir.isEmpty() && sheetPath.isEmpty() && checkDir.isEmpty()) {
+  if (outDir.isEmpty() && sheetPath.isEmpty() && checkDir.isEmpty() && iconDir.isEmpty()) {
     usage();
     return 2;
+  }
+  if (!iconDir.isEmpty()) {
+    if (!writeIcon(iconDir)) return 1;
+    std::printf("icon written to %s\n", qPrintable(iconDir));
+    if (outDir.isEmpty() && sheetPath.isEmpty()) return 0;
   }
 
   artgen::ArtList all;
