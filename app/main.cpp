@@ -1,6 +1,7 @@
 // PokerZEVA on the desktop: the Qt application, the event loop behind the game's waits, the
 // settings file, the program's folder and the random state, and then the game itself.
 #include <QApplication>
+#include <QIcon>
 #include <QStyleFactory>
 
 #include "core/start.h"
@@ -17,6 +18,10 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("PokerZEVA"));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QIcon icon(QStringLiteral(":/icon/pokerzeva.svg"));
+  for (int size : {48, 128, 256})
+    icon.addFile(QStringLiteral(":/icon/pokerzeva-%1.png").arg(size), QSize(size, size));
+  QApplication::setWindowIcon(icon);
   // Windows come and go with the game's forms; only the game ends the program.
   QApplication::setQuitOnLastWindowClosed(false);
 

@@ -263,7 +263,7 @@ int main(int argc, char** argv) {
   if (!iconDir.isEmpty()) {
     if (!writeIcon(iconDir)) return 1;
     std::printf("icon written to %s\n", qPrintable(iconDir));
-    if (outDir.isEmpty() && sheetPath.isEmpty()) return 0;
+    if (outDir.isEmpty() && sheetPath.isEmpty() && checkDir.isEmpty()) return 0;
   }
 
   artgen::ArtList all;
