@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include "front/guard.h"
@@ -213,6 +214,10 @@ QWidget* Front::Create(vb::Control& c, QWidget* parent) {
       break;
     case vb::Kind::Label: {
       auto* label = new QLabel(parent);
+      // A label hidden from readers keeps its changes to itself: a label with a name of its own
+      // tells no reader when its text changes (the music clock's line changes ten times a
+      // second). What readers hear comes from the game, never from this name.
+      if (c.accessible.hidden) label->setAccessibleName(QStringLiteral("-"));
       label->setTextFormat(Qt::PlainText);
       label->setWordWrap(true);
       label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -426,6 +431,10 @@ void Front::ApplyLook(vb::Control& c, QWidget* w) {
   if (w->property("pokerzeva_look").toString() == look) return;
   w->setProperty("pokerzeva_look", look);
   if (c.kind() != vb::Kind::Form) w->setFont(FontOf(c.font, scale));
+  // A frame with a colour of its own hides what lies beneath it: Qt then leaves out the
+  // repainting of what it covers (the music clock's line under the table, redrawn at each tick).
+  if (c.kind() == vb::Kind::Frame || c.kind() == vb::Kind::PictureBox)
+    w->setAttribute(Qt::WA_OpaquePaintEvent, c.HasBackColor);
   switch (c.kind()) {
     case vb::Kind::Label:
     case vb::Kind::TextBox: {
@@ -482,6 +491,12 @@ void Front::ShowOrHide(vb::Form& form) {
   if (!form.is_main || !win->placed) Place(*win);
   win->show();
   win->activateWindow();
+  // Once more when the queue is served: a menu that just closed hands the focus back to the
+  // table, and a dialog opened from it must keep the keys.
+  if (!form.is_main)
+    QTimer::singleShot(0, win, [win] {
+      if (win->isVisible()) win->activateWindow();
+    });
   if (vb::Control* active = form.ActiveControl())
     if (QWidget* w = widgets_.value(active)) w->setFocus(Qt::ActiveWindowFocusReason);
 }
@@ -597,6 +612,11 @@ bool Front::KeyEvent(QWidget* w, QEvent* event) {
     down.button = 2;
     Deliver(down);
     SetPopupPlace(std::nullopt);
+    return true;
+  }
+  // Escape is a dialog's close box (not the shuffle's, whose close ends the game).
+  if (ke->key() == Qt::Key_Escape && !win->form().is_main && !win->form().close_ends_game) {
+    Deliver(InputOn(vb::Input::Type::Close, win->form()));
     return true;
   }
   const int code = KeyCodeOf(ke->key());
