@@ -130,9 +130,7 @@ void NomearControles(FrmPrincipal& f) {
 
   // Chips on the table, by their value; who put them there is the row they stand in.
   const auto ficha = [](const char* onde) {
-    return [onde](const vb::Control& c) {
-      return "Ficha de " + c.Tag.get() + " " + onde;
-    };
+    return [onde](const vb::Control& c) { return "Ficha de " + c.Tag.get() + " " + onde; };
   };
   for (const auto& [i, c] : f.PictureCoin.items()) c->accessible.namer = ficha("no pote");
   for (const auto& [i, c] : f.PicturePokerCoin.items())

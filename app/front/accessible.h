@@ -4,9 +4,8 @@
 // hidden container handing its controls on to its own container.
 #pragma once
 
-#include <functional>
-
 #include <QObject>
+#include <functional>
 
 #include "platform/forms.h"
 

@@ -1,8 +1,8 @@
 #include "front/front.h"
 
 #include <QAccessible>
-#include <QCursor>
 #include <QApplication>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,8 +12,8 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "front/guard.h"
 #include "front/accessible.h"
+#include "front/guard.h"
 #include "front/menus.h"
 #include "front/names.h"
 #include "front/scaling.h"
@@ -602,7 +602,8 @@ bool Front::KeyEvent(QWidget* w, QEvent* event) {
   auto* ke = static_cast<QKeyEvent*>(event);
   // The menu key and Shift+F10 are the right button of the keyboard: a right press on the form,
   // with the menu where the focus is.
-  if (ke->key() == Qt::Key_Menu || (ke->key() == Qt::Key_F10 && ke->modifiers() == Qt::ShiftModifier)) {
+  if (ke->key() == Qt::Key_Menu ||
+      (ke->key() == Qt::Key_F10 && ke->modifiers() == Qt::ShiftModifier)) {
     vb::Form& form = win->form();
     if (!form.MouseDown) return true;
     QWidget* at = QApplication::focusWidget();

@@ -23,20 +23,14 @@ QString g_folder;
 // kept: a new scale empties it.
 QHash<QString, QPixmap> g_made;
 qint64 g_made_for = -1;
-// Drawings read from the files, by id and density.
-QHash<QString, QImage> g_drawn;
 QHash<QString, QSize> g_natural;
 
+// A drawing read from its file; not kept, as the picture made from it is.
 QImage Drawing(const QString& id, const Density& d) {
-  const QString key = id + QLatin1Char('|') + QString::number(d.factor);
-  auto it = g_drawn.find(key);
-  if (it == g_drawn.end()) {
-    QImage img;
-    const QString path = ImageFolder() + QLatin1Char('/') + id + QLatin1String(d.suffix);
-    if (QFile::exists(path)) img.load(path);
-    it = g_drawn.insert(key, img);
-  }
-  return *it;
+  QImage img;
+  const QString path = ImageFolder() + QLatin1Char('/') + id + QLatin1String(d.suffix);
+  if (QFile::exists(path)) img.load(path);
+  return img;
 }
 
 }  // namespace
@@ -52,7 +46,6 @@ QString ImageFolder() {
 void SetImageFolder(const QString& folder) {
   g_folder = folder;
   g_made.clear();
-  g_drawn.clear();
   g_natural.clear();
 }
 
@@ -61,9 +54,9 @@ QSize PictureSize(const std::string& id) {
   const QString name = QString::fromStdString(id);
   auto it = g_natural.find(name);
   if (it == g_natural.end())
-    it = g_natural.insert(name, QImageReader(ImageFolder() + QLatin1Char('/') + name +
-                                             QStringLiteral(".png"))
-                                    .size());
+    it = g_natural.insert(
+        name,
+        QImageReader(ImageFolder() + QLatin1Char('/') + name + QStringLiteral(".png")).size());
   return it->isValid() ? *it : QSize();
 }
 
@@ -83,11 +76,14 @@ QPixmap Picture(const std::string& id, qreal scale, qreal ratio) {
   // The smallest drawing at least as dense as the screen needs; the densest when none is.
   QImage source;
   for (const Density& d : kDensities) {
-    QImage img = Drawing(name, d);
-    if (img.isNull()) continue;
-    source = img;
-    if (d.factor >= factor - 1e-6) break;
+    const bool last = &d == &kDensities[std::size(kDensities) - 1];
+    if (d.factor < factor - 1e-6 && !last) continue;
+    source = Drawing(name, d);
+    if (!source.isNull()) break;
   }
+  if (source.isNull())  // only the plainer drawings exist
+    for (const Density& d : kDensities)
+      if (QImage img = Drawing(name, d); !img.isNull()) source = img;
   const QSize device(std::max(1, static_cast<int>(std::lround(natural.width() * factor))),
                      std::max(1, static_cast<int>(std::lround(natural.height() * factor))));
   if (source.size() != device)

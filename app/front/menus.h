@@ -1,6 +1,7 @@
 // Popup menus: the game's menu tree (entries with caption, check mark, enabled, visible, children,
-// "-" for a separator) shown as a QMenu at the mouse (or where the keyboard asked for it), walked by mouse or keys. The chosen entry's Click runs before the
-// call returns, as the old runtime's PopupMenu did.
+// "-" for a separator) shown as a QMenu at the mouse (or where the keyboard asked for it), walked
+// by mouse or keys. The chosen entry's Click runs before the call returns, as the old runtime's
+// PopupMenu did.
 #pragma once
 
 #include <QPoint>

@@ -180,9 +180,7 @@ void ToolbarWidget::Layout() {
   const bool piles = image.width() > image.height();
   // Laid out in the pixels of scale 1, then scaled edge to edge.
   const double scale = ScaleOf(this);
-  const auto px = [scale](int unscaled) {
-    return static_cast<int>(std::lround(unscaled * scale));
-  };
+  const auto px = [scale](int unscaled) { return static_cast<int>(std::lround(unscaled * scale)); };
   int x = 0;
   for (ToolbarButtonWidget* w : buttons_) {
     const vb::ToolbarButton& b = control_.Button(w->index());
@@ -281,8 +279,8 @@ void FormWindow::resizeEvent(QResizeEvent*) {
 
 void FormWindow::Fit() {
   const QSize stage = base_ * scale_;
-  stage_->setGeometry(QRect(QPoint((width() - stage.width()) / 2, (height() - stage.height()) / 2),
-                            stage));
+  stage_->setGeometry(
+      QRect(QPoint((width() - stage.width()) / 2, (height() - stage.height()) / 2), stage));
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

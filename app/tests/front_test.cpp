@@ -245,7 +245,9 @@ TEST_F(FrontTest, ChangesInTheGameReachTheWidgets) {
   // Names are the game's, read as they are now; a picture the game left unnamed says nothing.
   table->tiny_chip->Picture = "extras/Ficha5";
   EXPECT_EQ(Spoken(W(table->tiny_chip)), QString());
-  table->tiny_chip->accessible.namer = [](const vb::Control& c) { return "ficha " + c.Picture.get(); };
+  table->tiny_chip->accessible.namer = [](const vb::Control& c) {
+    return "ficha " + c.Picture.get();
+  };
   EXPECT_EQ(Spoken(W(table->tiny_chip)), QStringLiteral("ficha extras/Ficha5"));
   table->toolbar->accessible.button_namer = [](const vb::ToolbarButton& b) {
     return "carta " + b.ImageKey();
@@ -453,9 +455,7 @@ TEST(FrontPictures, EachPictureIsMadeAtTheSizeItCovers) {
     EXPECT_EQ(p.size(), c.device) << c.scale << " x " << c.ratio;
     EXPECT_EQ(p.devicePixelRatio(), c.ratio);
     // What it covers on the screen: its natural size times the table's scale.
-    EXPECT_EQ(p.deviceIndependentSize().toSize(),
-              (QSizeF(71, 96) * c.scale).toSize())
-        << c.scale;
+    EXPECT_EQ(p.deviceIndependentSize().toSize(), (QSizeF(71, 96) * c.scale).toSize()) << c.scale;
   }
   EXPECT_EQ(front::PictureSize("barajas/AC"), QSize(71, 96));
   EXPECT_TRUE(front::Picture("barajas/ZZ", 1.0, 1.0).isNull());

@@ -31,8 +31,8 @@ TEST(Scaling, OneFactorFitsTheTableToItsWindowAndScreen) {
     double scale;
   };
   const Case fits[] = {
-      {{662, 476}, 1.0},   {{1324, 952}, 2.0},  {{2000, 952}, 2.0},  // wider: felt at the sides
-      {{993, 2000}, 1.5},  {{100, 100}, 0.5},                        // never below the least
+      {{662, 476}, 1.0},  {{1324, 952}, 2.0}, {{2000, 952}, 2.0},  // wider: felt at the sides
+      {{993, 2000}, 1.5}, {{100, 100}, 0.5},                       // never below the least
   };
   for (const Case& c : fits) EXPECT_DOUBLE_EQ(front::FitScale(c.client, table), c.scale);
 

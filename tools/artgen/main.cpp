@@ -9,8 +9,8 @@
 // a few levels, but no picture may be missing, change its size or change what it shows.
 //
 // Each picture is painted three times from the same vector drawing: at 1x into
-// <name>.png, at 2x into <name>@2x.png and at 4x into <name>@4x.png. The output is deterministic: no
-// timestamps or text chunks are written and nothing random is used.
+// <name>.png, at 2x into <name>@2x.png and at 4x into <name>@4x.png. The output is deterministic:
+// no timestamps or text chunks are written and nothing random is used.
 // --icon writes the application icon as pokerzeva.svg and as
 // pokerzeva-48.png, -128.png and -256.png for the desktop's icon theme.
 #include <QDir>
