@@ -3,13 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "core/cards.h"
 #include "core/game_state.h"
 #include "platform/runtime.h"
 #include "replay.h"
+#include "session/about.h"
 #include "session/dialogs.h"
+#include "session/sel_fundos.h"
+#include "session/trapassa.h"
 #include "table/frm_principal.h"
 
 namespace {
@@ -26,7 +31,8 @@ class Options : public ::testing::Test {
     replay::Options options;
     options.seed = seed;
     session_.reset();  // one game at a time: the process has one table
-    session_ = std::make_unique<replay::Session>(options, nullptr);
+    out_.str("");
+    session_ = std::make_unique<replay::Session>(options, &out_);
     session_->Start();
   }
   bool Play(const std::string& line) { return session_->Play(line, ++line_); }
@@ -37,6 +43,26 @@ class Options : public ::testing::Test {
     ASSERT_EQ(static_cast<int>(Fase), 50);
   }
   std::string Caption(vb::Control& c) { return c.Caption.get(); }
+  // The sound commands printed since the last call.
+  std::vector<std::string> Sent() {
+    std::vector<std::string> sent;
+    std::istringstream lines(out_.str().substr(read_));
+    read_ = out_.str().size();
+    const std::string tag = "\"command\": \"";
+    for (std::string l; std::getline(lines, l);) {
+      const std::size_t at = l.find(tag);
+      if (l.find("\"mci\"") == std::string::npos || at == std::string::npos) continue;
+      std::string command = l.substr(at + tag.size());
+      command = command.substr(0, command.rfind('"'));
+      std::string plain;  // JSON's doubled backslashes back to one
+      for (std::size_t i = 0; i < command.size(); ++i)
+        plain += command[i] == '\\' ? command[++i] : command[i];
+      sent.push_back(plain);
+    }
+    return sent;
+  }
+  std::ostringstream out_;
+  std::size_t read_ = 0;
   std::unique_ptr<replay::Session> session_;
   int line_ = 0;
 };
@@ -197,6 +223,78 @@ TEST_F(Options, MenuLinesFollowTheirGrammarAndTheTable) {
   ASSERT_TRUE(Play("more"));  // a hand on the table: no menu
   EXPECT_FALSE(Play("menu nova"));
   EXPECT_TRUE(Play("state"));
+}
+
+}  // namespace
+
+namespace {
+
+// The card backs, the cheat and the credits.
+using Extras = Options;
+
+TEST_F(Extras, TheChooserKeepsOneChoiceUntilUndoneAndDefaultsToTheFirstBack) {
+  ASSERT_TRUE(Play("menu fundos 3 aplicar"));
+  EXPECT_EQ(Dorso, 5);
+  EXPECT_EQ(Frm_Principal().ImageListBarajas.PictureOf("FRENTE"),
+            Frm_Principal().ImageListFundos.PictureOf(5));
+  EXPECT_EQ(Frm_Principal().ImageListBarajas.PictureOf("DORSO"),
+            Frm_Principal().ImageListFundos.PictureOf(6));
+  ASSERT_TRUE(Play("menu fundos"));  // closed at once: the first design, not the one in force
+  EXPECT_EQ(Dorso, 1);
+  ASSERT_TRUE(Play("menu fundos 2 9 desfazer 9"));  // the second click waits for "D e s f a z e r"
+  EXPECT_EQ(Dorso, 17);
+  const auto& preview = Frm_SelFundos().ToolbarCartas(3);
+  EXPECT_EQ(preview.Buttons()[1]->Image(), "0");  // never applied: the preview shows nothing
+}
+
+TEST_F(Extras, ApplyingWithNothingChosenIsTheStoresFault) {
+  EXPECT_TRUE(Play("menu fundos aplicar"));
+  EXPECT_EQ(session_->fault(), vb::err::kElementNotFound);
+  EXPECT_FALSE(Play("state"));  // the game has ended
+}
+
+TEST_F(Extras, TheCheatOpensOnlyToTheWholeCode) {
+  auto& f = Frm_Principal();
+  ASSERT_TRUE(Play("menu trapassa \"OBaralhoLimpo\""));  // without its two blanks
+  EXPECT_FALSE(f.MnuVerBaralho.Visible);
+  EXPECT_EQ(Frm_Trapassa().Text1.Text.get(), "Eu acho que não");
+  ASSERT_TRUE(Play("menu trapassa \"OBaralhoLimpo  \""));
+  EXPECT_TRUE(f.MnuVerBaralho.Visible && f.MnuVerBaralho.Enabled && f.MnuVerCartas.Visible);
+  ASSERT_TRUE(Play("menu verbaralho"));
+  ASSERT_TRUE(Play("menu vercartas"));
+  EXPECT_TRUE(VerBaralho && VerCartas);
+  EXPECT_EQ(f.Height, 9210);  // the table grows for the deck
+  // The right code again: the flags stay, the marks go.
+  ASSERT_TRUE(Play("menu trapassa \"OBaralhoLimpo  \""));
+  EXPECT_TRUE(VerBaralho && VerCartas);
+  EXPECT_FALSE(f.MnuVerBaralho.Checked || f.MnuVerCartas.Checked);
+  // Her cards show face up at the next deal.
+  ASSERT_TRUE(Play("more"));
+  EXPECT_EQ(f.ToolbarPoker.Button(2).ImageKey(), CartasPoker[1]);
+  ASSERT_TRUE(Play("giveup"));
+  // Any other text hides the entries and takes both cheats back.
+  ASSERT_TRUE(Play("menu trapassa \"Eu Não Sei...\""));
+  EXPECT_FALSE(f.MnuVerBaralho.Visible || f.MnuVerCartas.Visible);
+  EXPECT_FALSE(VerBaralho || VerCartas);
+  EXPECT_EQ(f.Height, 7650);
+}
+
+TEST_F(Extras, TheCreditsTuneNeedsEffectsAndMusicAndComesBackAfter310Seconds) {
+  ASSERT_TRUE(Play("menu efeitos"));  // effects on, music off: the tracks stop, nothing plays
+  Sent();
+  ASSERT_TRUE(Play("menu creditos 1000"));
+  EXPECT_EQ(Sent(), std::vector<std::string>{"Close All"});
+  ASSERT_TRUE(Play("menu musica"));
+  Sent();
+  ASSERT_TRUE(Play("menu creditos 310100"));  // the 3101st tick plays the tune again
+  const std::vector<std::string> want = {"Close All", "Play MUSICAS\\TRILHAS\\CREDITOS.WMA",
+                                         "Play MUSICAS\\TRILHAS\\CREDITOS.WMA",
+                                         "Close MUSICAS\\TRILHAS\\CREDITOS.WMA"};
+  std::vector<std::string> credits;
+  for (const std::string& c : Sent())
+    if (c.find("CREDITOS") != std::string::npos || c == "Close All") credits.push_back(c);
+  EXPECT_EQ(credits, want);
+  EXPECT_EQ(Frm_About().lblVersion.Caption.get(), "Versão 2.0.0");
 }
 
 }  // namespace

@@ -28,7 +28,19 @@ bool Hidden(const QWidget* w) {
     return b->accessibleName().isEmpty() &&
            b->toolbar().AccessibleName(b->toolbar().Button(b->index())).empty();
   const vb::Control* c = ControlOf(w);
-  return c && c->kind() != vb::Kind::Form && c->accessible.hidden;
+  if (!c || c->kind() == vb::Kind::Form) return false;
+  if (c->accessible.hidden) return true;
+  switch (c->kind()) {
+    case vb::Kind::Frame:
+    case vb::Kind::Toolbar:
+      // A container with nothing to say lets its controls speak for it.
+      return c->Caption.get().empty() && c->AccessibleName().empty();
+    case vb::Kind::Shape:
+    case vb::Kind::Line:
+      return true;  // drawing only
+    default:
+      return false;
+  }
 }
 
 // The children a reader sees: hidden ones replaced by their own, windows left to themselves.

@@ -545,6 +545,17 @@ void Front::Deliver(const vb::Input& input) {
 
 bool Front::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
+    case QEvent::WindowActivate:
+      // A window behind an open dialog gives the activation on to the dialog, which stays above.
+      if (vb::Form* top = vb::Engine::Get().TopModal()) {
+        FormWindow* dialog = windows_.value(top);
+        if (dialog && dialog != watched && dialog->isVisible() &&
+            qobject_cast<FormWindow*>(watched)) {
+          dialog->raise();
+          dialog->activateWindow();
+        }
+      }
+      return false;
     case QEvent::KeyPress:
       return watched->isWidgetType() && KeyEvent(static_cast<QWidget*>(watched), event);
     case QEvent::MouseButtonPress:
@@ -615,13 +626,16 @@ bool Front::KeyEvent(QWidget* w, QEvent* event) {
     SetPopupPlace(std::nullopt);
     return true;
   }
-  // Escape is a dialog's close box (not the shuffle's, whose close ends the game).
-  if (ke->key() == Qt::Key_Escape && !win->form().is_main && !win->form().close_ends_game) {
+  const int code = KeyCodeOf(ke->key());
+  if (code == 0) return false;
+  // Esc closes a dialog as its close box does; so does Enter in its text box, the way a player
+  // ends typing a name or a value. Not the shuffle's box, whose close ends the game.
+  const vb::Form& form = win->form();
+  if (!form.is_main && !form.close_ends_game &&
+      (code == 27 || (code == 13 && qobject_cast<QLineEdit*>(w)))) {
     Deliver(InputOn(vb::Input::Type::Close, win->form()));
     return true;
   }
-  const int code = KeyCodeOf(ke->key());
-  if (code == 0) return false;
   if (qobject_cast<QLineEdit*>(w) && code != 9 && code != 13 && code != 27) return false;
   vb::Input in = InputOn(vb::Input::Type::Key, win->form());
   in.key_code = code;

@@ -5,14 +5,13 @@
 #include <QRadialGradient>
 #include <QTransform>
 #include <cmath>
+#include <numbers>
 
 #include "art.h"
 
 namespace artgen {
 
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 // The felt of the table (the game's filler colour) and its darker edge.
 const QColor kFelt(0x02, 0x68, 0x1a);
@@ -67,7 +66,7 @@ void paintTopChip(QPainter& p, const QPointF& c, double r) {
   p.fillPath(disc, body);
 
   for (int k = 0; k < 6; ++k) {
-    const double a = k * kPi / 3 + kPi / 6;
+    const double a = k * std::numbers::pi / 3 + std::numbers::pi / 6;
     QPainterPath insert;
     const double half = 0.2;
     insert.moveTo(c + QPointF(r * std::cos(a - half), r * std::sin(a - half)));
