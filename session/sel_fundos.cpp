@@ -1,5 +1,7 @@
 #include "session/sel_fundos.h"
 
+#include <string>
+
 #include "core/game_state.h"
 #include "platform/runtime.h"
 #include "table/frm_principal.h"
@@ -21,6 +23,12 @@ FrmSelFundos::FrmSelFundos() : vb::Form("FrmSelFundos") {
     bar.images = i == 3 ? &ImageListtESTE : &ImageListReves;
     for (int b = 1; b <= 10; ++b) bar.AddButton();
     ToolbarCartas.Set(i, &bar);
+    // Readers hear each design by its number, and the preview's cards as such.
+    bar.accessible.button_namer = [i](const vb::ToolbarButton& b) {
+      if (b.PictureShown().empty()) return std::string();
+      if (i == 3) return std::string("Prévia do fundo escolhido");
+      return "Fundo " + std::to_string((i - 1) * kPorBarra + b.Index() / 2);
+    };
     if (i == 3) continue;  // the preview only shows
     bar.ButtonClick = [this, i](vb::ToolbarButton& button) {
       ToolbarCartas_ButtonClick(i, button);

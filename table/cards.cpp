@@ -54,6 +54,8 @@ void EscolherCarta(int Index) {
   auto& f = Frm_Principal();
   f.ToolbarPlayer.Button(2 * (Index + 1)).SetValue(1);
   MarcarCarta(2 * (Index + 1));
+  // The press shows for one tick, as a chip place's does.
+  f.TimerKeyPot.Enabled = true;
 }
 }  // namespace
 

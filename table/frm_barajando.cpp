@@ -10,6 +10,7 @@
 #include "platform/runtime.h"
 #include "table/frm_principal.h"
 #include "table/image_stores.h"
+#include "table/nomes.h"
 
 namespace {
 
@@ -48,6 +49,7 @@ FrmBarajando::FrmBarajando() : vb::Form("FrmBarajando") {
   Timer1.timer_order = 2;
   Load = [this] { Form_Load(); };
   Timer1.TimerEvent = [this] { Timer1_Timer(); };
+  NomearControles(*this);
 }
 
 void FrmBarajando::ComecarPasso() {

@@ -11,6 +11,7 @@
 #include "core/speeds.h"
 #include "platform/engine.h"
 #include "table/image_stores.h"
+#include "table/nomes.h"
 
 namespace {
 
@@ -336,6 +337,8 @@ FrmPrincipal::FrmPrincipal() : vb::Form("Frm_Principal") {
   }
   ToolbarPlayerCoins.MouseDown = ToolbarPlayerCoins_MouseDown;
   ToolbarPlayer.MouseDown = ToolbarPlayer_MouseDown;
+
+  NomearControles(*this);
 }
 
 FrmPrincipal& Frm_Principal() {

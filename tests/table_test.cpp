@@ -552,3 +552,78 @@ TEST_F(Table, TrocarFaceCyclesThroughTheTwentySevenFaces) {
 }
 
 }  // namespace
+
+namespace {
+
+// What a screen reader is told, straight from the table: cards by rank and suit, backs, marks,
+// piles by side, faces, and the layout hidden.
+TEST_F(TableTest, ControlsAreNamedInThePlayersWords) {
+  FrmPrincipal& f = Frm_Principal();
+  struct Card {
+    const char* key;
+    bool enabled;
+    const char* player;  // on the player's toolbar
+    const char* poker;   // on hers
+  };
+  const Card cards[] = {
+      {"QD", true, "Dama de Ouros", "Dama de Ouros"},
+      {"DC", true, "Dez de Copas", "Dez de Copas"},
+      {"AP", true, "Ás de Espadas", "Ás de Espadas"},
+      {"7T", true, "Sete de Paus", "Sete de Paus"},
+      {"2D", false, "Dois de Ouros, marcada para a troca", "Dois de Ouros"},
+      {"FRENTE", true, "Carta virada", "Carta virada"},
+      {"DORSO", true, "Carta virada", "Carta virada"},
+      {"0", true, "", ""},
+  };
+  for (const Card& c : cards) {
+    SCOPED_TRACE(c.key);
+    for (vb::Control* bar : {&f.ToolbarPlayer, &f.ToolbarPoker}) {
+      vb::ToolbarButton& b = bar->Button(4);
+      b.SetImage(c.key);
+      b.SetEnabled(c.enabled);
+      EXPECT_EQ(bar->AccessibleName(b), bar == &f.ToolbarPlayer ? c.player : c.poker);
+    }
+  }
+  f.ToolbarPlayer.Button(4).SetImage("KT");
+  f.ToolbarPlayer.Button(4).SetEnabled(false);
+  EXPECT_EQ(f.PicCartasPlayer(1).AccessibleName(), "Carta 2: Rei de Paus, marcada para a troca");
+
+  struct Pile {
+    const char* key;
+    const char* image;
+    const char* poker;
+    const char* player;
+  };
+  const Pile piles[] = {
+      {"F05", "F05_13", "ZEVA: 13 fichas de 5", "Você: 13 fichas de 5"},
+      {"F50", "F50_01", "ZEVA: 1 ficha de 50", "Você: 1 ficha de 50"},
+      {"F01", "F01_00", "ZEVA: nenhuma ficha de 1", "Você: nenhuma ficha de 1"},
+      {"F10", "0", "ZEVA: nenhuma ficha de 10", "Você: nenhuma ficha de 10"},
+  };
+  for (const Pile& p : piles) {
+    SCOPED_TRACE(p.image);
+    f.ToolbarPokerCoins.Button(p.key).SetImage(p.image);
+    f.ToolbarPlayerCoins.Button(p.key).SetImage(p.image);
+    EXPECT_EQ(f.ToolbarPokerCoins.AccessibleName(f.ToolbarPokerCoins.Button(p.key)), p.poker);
+    EXPECT_EQ(f.ToolbarPlayerCoins.AccessibleName(f.ToolbarPlayerCoins.Button(p.key)), p.player);
+  }
+
+  f.PictureMão.Picture = f.ImageListExtras.PictureOf("SetaAcima");
+  EXPECT_EQ(f.PictureMão.AccessibleName(), "Mão de ZEVA");
+  f.PictureMão.Picture = f.ImageListExtras.PictureOf("SetaAbaixo");
+  EXPECT_EQ(f.PictureMão.AccessibleName(), "Sua mão");
+  f.PicturePokerCoin(3).Tag = "10";
+  EXPECT_EQ(f.PicturePokerCoin(3).AccessibleName(), "Ficha de 10 apostada por ZEVA");
+  EXPECT_EQ(f.PicturePokerFace.AccessibleName(), "Rosto de ZEVA");
+  EXPECT_EQ(f.PicFichasPlayer(1).AccessibleName(), "Apostar uma ficha de 5");
+
+  // Layout, lines and the debugging line are hidden; her words are announced.
+  for (vb::Control* c : {&f.FraPrincipal, &f.FrameToFiler(12), &f.FraFichasFocus(0), &f.Line1(0),
+                         &f.ToolbarMesa, &f.LblMusicTime, &f.LabelPlayerFichasPOT(0)})
+    EXPECT_TRUE(c->accessible.hidden) << c->Id();
+  EXPECT_FALSE(f.LabelPokerMensagem.accessible.hidden);
+  EXPECT_TRUE(f.LabelPokerMensagem.accessible.live);
+  EXPECT_TRUE(f.LabelPokerCaption(2).accessible.live);
+}
+
+}  // namespace

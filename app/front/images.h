@@ -1,6 +1,8 @@
-// The game's pictures, by id: "<images folder>/<id>.png", and "<id>@2x.png" on screens whose
-// pixels are denser than the desktop's units, so that cards and chips stay crisp. A missing file
-// is an empty picture, which draws nothing.
+// The game's pictures, by id. The artwork is drawn at 1, 2 and 4 times its size
+// ("<images folder>/<id>.png", "<id>@2x.png", "<id>@4x.png"); a picture is made at the exact
+// size it covers on the screen, from the smallest drawing at least that dense, so that it stays
+// crisp at any scale of the table and any density of the screen. A missing file is an empty
+// picture, which draws nothing.
 #pragma once
 
 #include <QPixmap>
@@ -14,10 +16,11 @@ namespace front {
 QString ImageFolder();
 void SetImageFolder(const QString& folder);  // empties the cache
 
-// `ratio` is the device pixel ratio of the widget that draws it.
-QPixmap Picture(const std::string& id, qreal ratio);
+// The picture at `scale` of the table, for a screen of device pixel ratio `ratio`: it covers its
+// natural size times `scale` in desktop units.
+QPixmap Picture(const std::string& id, qreal scale, qreal ratio);
 
-// The size of a picture in desktop units (what it covers at ratio 1); empty when missing.
+// The natural size of a picture in desktop units (what it covers at scale 1); empty when missing.
 QSize PictureSize(const std::string& id);
 
 }  // namespace front

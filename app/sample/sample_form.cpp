@@ -51,6 +51,7 @@ SampleForm::SampleForm() {
   chip_place = &Add(form, vb::Kind::PictureBox, "PicFichasPlayer", felt, 1, 3000, 120, 615, 615);
   chip_place->Picture = "extras/Ficha5";
   chip_place->TabIndex = 0;
+  chip_place->accessible.name = "Ficha de 5";
   vb::Control& pot =
       Add(form, vb::Kind::Label, "LabelPlayerFichasPOT", chip_place, 1, 120, 120, 345, 375);
   pot.font = {"MS Sans Serif", 13.5, true};

@@ -58,5 +58,6 @@ int main(int argc, char** argv) {
   AjustarTela();
   MostrarBaralho(false, false);
   shoot("deck");
+  DestruirFormularios();  // before the form engine, a static, is gone
   return 0;
 }

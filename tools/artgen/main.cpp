@@ -8,9 +8,9 @@
 // antialiased edges come out a shade different on another processor, so a channel may differ by
 // a few levels, but no picture may be missing, change its size or change what it shows.
 //
-// Each picture is painted twice from the same vector drawing: at 1x into
-// <name>.png and at 2x into <name>@2x.png. The output is deterministic: no
-// timestamps or text chunks are written and nothing random is used.
+// Each picture is painted three times from the same vector drawing: at 1x into
+// <name>.png, at 2x into <name>@2x.png and at 4x into <name>@4x.png. The output is deterministic:
+// no timestamps or text chunks are written and nothing random is used.
 // --icon writes the application icon as pokerzeva.svg and as
 // pokerzeva-48.png, -128.png and -256.png for the desktop's icon theme.
 #include <QDir>
@@ -29,6 +29,13 @@
 #include "art.h"
 
 namespace {
+
+// The densities each picture is painted at: the screen makes any size from the nearest one above.
+struct Density {
+  int factor;
+  const char* suffix;
+};
+constexpr Density kDensities[] = {{1, ".png"}, {2, "@2x.png"}, {4, "@4x.png"}};
 
 QImage render(const artgen::Art& art, int scale) {
   QImage img(art.width * scale, art.height * scale, QImage::Format_ARGB32_Premultiplied);
@@ -225,8 +232,8 @@ int main(int argc, char** argv) {
   QString outDir;
   QString sheetPath;
   QString only;
-  QString iconDir;
   QString checkDir;
+  QString iconDir;
   int zoom = 1;
   const QStringList args = app.arguments();
   for (int i = 1; i < args.size(); ++i) {
@@ -277,8 +284,8 @@ int main(int argc, char** argv) {
     int bad = 0;
     for (const auto& art : list) {
       const QString base = checkDir + QLatin1Char('/') + art.name;
-      bad += !matches(render(art, 1), base + QStringLiteral(".png"));
-      bad += !matches(render(art, 2), base + QStringLiteral("@2x.png"));
+      for (const Density& d : kDensities)
+        bad += !matches(render(art, d.factor), base + QLatin1String(d.suffix));
     }
     std::printf("%d pictures checked, %d files differ\n", static_cast<int>(list.size()), bad);
     if (bad > 0 || sheetPath.isEmpty()) return bad > 0 ? 1 : 0;
@@ -290,12 +297,11 @@ int main(int argc, char** argv) {
   for (const auto& art : list) {
     QImage one = render(art, 1);
     if (!outDir.isEmpty()) {
-      const QImage two = render(art, 2);
-      if (!save(one, outDir + QLatin1Char('/') + art.name + QStringLiteral(".png")) ||
-          !save(two, outDir + QLatin1Char('/') + art.name + QStringLiteral("@2x.png"))) {
-        return 1;
+      for (const Density& d : kDensities) {
+        const QImage img = d.factor == 1 ? one : render(art, d.factor);
+        if (!save(img, outDir + QLatin1Char('/') + art.name + QLatin1String(d.suffix))) return 1;
+        ++written;
       }
-      written += 2;
     }
     ones.push_back(std::move(one));
   }
