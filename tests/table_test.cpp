@@ -557,7 +557,7 @@ namespace {
 
 // What a screen reader is told, straight from the table: cards by rank and suit, backs, marks,
 // piles by side, faces, and the layout hidden.
-TEST_F(TableTest, ControlsAreNamedInThePlayersWords) {
+TEST_F(Table, ControlsAreNamedInThePlayersWords) {
   FrmPrincipal& f = Frm_Principal();
   struct Card {
     const char* key;
