@@ -27,7 +27,7 @@
 #include "front/qt_host.h"
 #include "platform/engine.h"
 #include "platform/runtime.h"
-#include "sample/sample_form.h"
+#include "support/sample_form.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "sample/sample_form.h"
+#include "support/sample_form.h"
 
 #include <QDir>
 #include <QFont>

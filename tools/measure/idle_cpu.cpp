@@ -19,7 +19,7 @@
 #include "front/images.h"
 #include "front/qt_host.h"
 #include "platform/engine.h"
-#include "sample/sample_form.h"
+#include "support/sample_form.h"
 
 namespace {
 
