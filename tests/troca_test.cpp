@@ -124,80 +124,6 @@ class Exchange : public GameTest, public vb::Listener {
   }
 };
 
-// He covers her opening, so she draws first. Her pair of nines would have her throw three, but
-// she sees the king of clubs on top of the deck: she keeps her four clubs and takes one card.
-TEST_F(Exchange, SheDrawsFirstAndKeepsFourForTheFlushSheSaw) {
-  Comecar(kEstadoAbre);
-  ASSERT_TRUE(MaoPlayer);
-  Mesa({"9C", "9D", "7C", "4C", "2C"}, {"AD", "KD", "QP", "8T", "6P"},
-       {"KC", "5D", "3T", "QD", "JP"});
-  vb::ScriptRnd({Humor(1)});  // a pair, mood 1: three cards
-  const std::int64_t t0 = host->Now();
-  ASSERT_TRUE(Click("CmdPago"));
-  EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
-
-  EXPECT_EQ(static_cast<int>(CartasTrocaPoker), 3);
-  EXPECT_EQ(ListaTroca.substr(0, 2), "CO");
-  EXPECT_EQ(Mao(CartasPoker), (std::vector<std::string>{"KC", "9C", "7C", "4C", "2C"}));
-  // Announced and taken: one card, said twice; the count of three never shows.
-  ASSERT_GE(g_falas_dela.size(), 3u);
-  const std::vector<std::string> pedido(g_falas_dela.end() - 2, g_falas_dela.end());
-  EXPECT_EQ(pedido, std::vector<std::string>(2, "Eu Vou ter que pedir 1 Cartinha do Baralho"));
-  // Her nine of D goes down at the second beat, the king turns up in plain sight, then the hand
-  // is covered again.
-  EXPECT_EQ(Historia(true, 2, t0),
-            (std::vector<std::pair<std::int64_t, std::string>>{
-                {t0 + 2000, "DORSO"}, {t0 + 5500, "KC"}, {t0 + 6250, "FRENTE"}}));
-  for (int pos : {1, 3, 4, 5}) EXPECT_FALSE(Dorso(pos)) << pos;
-
-  // His turn to mark: 5 seconds of hers, half a second for the card she turned, 1.5 to cover.
-  EXPECT_EQ(host->Now() - t0, 5000 + 500 + 1500);
-  EXPECT_EQ(static_cast<int>(Fase), 20);
-  EXPECT_TRUE(PokerJaTrocou);
-  EXPECT_TRUE(F().FraPedeCartasPlayer.Visible);
-  EXPECT_TRUE(F().FraPedeCartasPlayer.Enabled);
-  EXPECT_FALSE(F().FraApostaPlayer.Visible);
-  EXPECT_EQ(Caption(F().CmdAcabei(1)), "&Acabei");
-  EXPECT_EQ(Caption(F().CmdDesfazer(1)), "&DesFazer");
-  EXPECT_EQ(g_falas_dele.back(), "Indica Quais Cartas desejas Trocar, clicando-as com o mouse!");
-  EXPECT_EQ(F().ActiveControl(), &F().PicCartasPlayer(0));
-  EXPECT_TRUE(Borda(0));
-
-  // A mark by mouse, one by keyboard; the marked card takes the focus without its border.
-  ASSERT_TRUE(Click("PicCartasPlayer", 3));
-  ASSERT_TRUE(Key(39));
-  EXPECT_EQ(F().ActiveControl(), &F().PicCartasPlayer(4));
-  EXPECT_TRUE(Borda(4));
-  EXPECT_FALSE(Borda(3));
-  ASSERT_TRUE(Key(32));
-  ASSERT_TRUE(Key(37));
-  EXPECT_EQ(F().ActiveControl(), &F().PicCartasPlayer(3));
-  EXPECT_FALSE(Borda(3));
-  EXPECT_EQ(static_cast<int>(MarcadasTroca), 2);
-  for (int i = 0; i <= 4; ++i) EXPECT_EQ(Marcada(i), i >= 3) << i;
-  // The clicked buttons are drawn pressed, and nothing comes to release them.
-  EXPECT_EQ(F().ToolbarPlayer.Button(8).Value(), 1);
-  EXPECT_EQ(F().ToolbarPlayer.Button(10).Value(), 1);
-  EXPECT_FALSE(F().TimerKeyPot.Enabled);
-
-  // He draws after her, from place 10 + her count of three: places 12 and 13 are skipped.
-  const std::int64_t t1 = host->Now();
-  ASSERT_TRUE(Click("CmdAcabei", 1));
-  EXPECT_EQ(Historia(false, 4, t1).front(), std::make_pair(t1 + 1000, std::string("QD")));
-  EXPECT_EQ(Historia(false, 5, t1).front(), std::make_pair(t1 + 2000, std::string("JP")));
-  EXPECT_EQ(Mao(CartasPlayer), (std::vector<std::string>{"AD", "KD", "QD", "QP", "JP"}));
-  EXPECT_NE(std::find(g_falas_dele.begin(), g_falas_dele.end(),
-                      "Eu Vou ter que pedir 2 Cartinhas do Baralho"),
-            g_falas_dele.end());
-  for (int i = 0; i <= 4; ++i) EXPECT_FALSE(Marcada(i)) << i;
-  EXPECT_EQ(F().ToolbarPlayer.Button(8).Value(), 1);
-  EXPECT_EQ(F().ToolbarPlayer.Button(10).Value(), 1);
-  // She drew once only; the round of final bets has begun.
-  EXPECT_EQ(Mao(CartasPoker), (std::vector<std::string>{"KC", "9C", "7C", "4C", "2C"}));
-  EXPECT_GE(static_cast<int>(Fase), 30);
-  EXPECT_FALSE(F().FraPedeCartasPlayer.Visible);
-}
-
 // She passed, so he holds the hand and draws first: all five with MaxTroca 5, from places 11 to
 // 15, and her cards start at place 16, where she has seen three deuces.
 TEST_F(Exchange, HeDrawsFiveFirstAndHerCardsStartAtPlace16) {
@@ -237,28 +163,6 @@ TEST_F(Exchange, HeDrawsFiveFirstAndHerCardsStartAtPlace16) {
   EXPECT_EQ(pedido, std::vector<std::string>(2, "Eu Vou ter que pedir 5 Cartinhas do Baralho"));
 }
 
-// "CAR" gives 0: she stands pat, says so, and every deck place stays for him.
-TEST_F(Exchange, StandingPatNoCardMovesAndTheDeckStaysForHim) {
-  Comecar(kEstadoAbre);
-  Mesa({"9C", "9D", "7C", "4C", "2C"}, {"AD", "KD", "QP", "8T", "6P"},
-       {"KC", "5D", "3T", "QD", "JP"});
-  vb::ScriptRnd({Humor(0)});  // a pair, mood 0: none
-  const std::int64_t t0 = host->Now();
-  EntrarTroca();
-  EXPECT_EQ(static_cast<int>(CartasTrocaPoker), 0);
-  EXPECT_EQ(ListaTroca, JogoPoker + ValoresPoker);
-  EXPECT_EQ(Mao(CartasPoker), (std::vector<std::string>{"9C", "9D", "7C", "4C", "2C"}));
-  for (int pos = 1; pos <= 5; ++pos) EXPECT_FALSE(Dorso(pos)) << pos;
-  EXPECT_EQ(g_linha1_dela, "Mnnn! Estou Servida...");
-  EXPECT_EQ(g_falas_dela.back(), "Esse Meu Jogo esta Ótimo, acredita Amor");
-  EXPECT_EQ(host->Now() - t0, 5000 + 1500);
-
-  ASSERT_TRUE(Click("PicCartasPlayer", 3));
-  ASSERT_TRUE(Click("PicCartasPlayer", 4));
-  ASSERT_TRUE(Click("CmdAcabei", 1));
-  EXPECT_EQ(Mao(CartasPlayer), Ordenada({"AD", "KD", "QP", "KC", "5D"}));
-}
-
 // MaxTroca 1: a second mark is refused, by card or by toolbar button, and each click is heard.
 // He takes place 11, she place 12.
 TEST_F(Exchange, WithMaxTroca1ASecondMarkIsUndone) {
@@ -292,32 +196,6 @@ TEST_F(Exchange, WithMaxTroca1ASecondMarkIsUndone) {
   EXPECT_EQ(Mao(CartasPoker), Ordenada({"KC", "9C", "7C", "4C", "2C"}));
   EXPECT_EQ(Efeitos("CARTAINI"), 1);
   EXPECT_EQ(Efeitos("CARTASHOW"), 1);
-}
-
-// The mark count starts again with each exchange: the marks of one hand don't eat into the next.
-TEST_F(Exchange, MarksAreCountedAfreshInTheNextHand) {
-  Comecar(kEstadoPassa);
-  MaxTroca = 2;
-  EntrarTroca();
-  for (int i = 0; i <= 2; ++i) ASSERT_TRUE(Click("PicCartasPlayer", i));
-  EXPECT_EQ(static_cast<int>(MarcadasTroca), 2);
-  EXPECT_FALSE(Marcada(2));
-  vb::ScriptRnd({Humor(0)});
-  ASSERT_TRUE(Click("CmdAcabei", 1));
-  EXPECT_EQ(static_cast<int>(CartasTrocaPlayer), 2);
-
-  // The hand ends; the next one is his again by the count, and he draws first once more.
-  Fase = 50;
-  F().FraApostaPlayer.Visible = false;
-  F().FraMaisUma.Visible = true;
-  F().FraMaisUma.Enabled = true;
-  ASSERT_TRUE(Click("CmdMaisUma"));
-  ASSERT_EQ(static_cast<int>(NroMao), 3);
-  EntrarTroca();
-  EXPECT_EQ(static_cast<int>(MarcadasTroca), 0);
-  for (int i = 4; i >= 2; --i) ASSERT_TRUE(Click("PicCartasPlayer", i));
-  EXPECT_EQ(static_cast<int>(MarcadasTroca), 2);
-  for (int i = 0; i <= 4; ++i) EXPECT_EQ(Marcada(i), i >= 3) << i;
 }
 
 // Over many random deals, deck sizes, house rules, counts and orders: after her exchange every
