@@ -133,10 +133,9 @@ TEST_F(Chips, TrocarFichasMakesChange) {
   struct Caso {
     Pilha antes, depois;
   } casos[] = {
-      {{0, 0, 4, 19}, {15, 13, 16, 15}},
-      {{0, 0, 0, 1}, {15, 5, 1, 0}},
-      {{0, 0, 0, 0}, {0, 0, 0, 0}},
-      {{30, 30, 30, 30}, {30, 30, 30, 30}},
+      {{0, 0, 4, 19}, {15, 13, 16, 15}}, {{0, 0, 0, 1}, {15, 5, 1, 0}},
+      {{0, 5, 0, 0}, {10, 3, 0, 0}},  // five fives: two are broken into ones
+      {{0, 0, 0, 0}, {0, 0, 0, 0}},      {{30, 30, 30, 30}, {30, 30, 30, 30}},
   };
   for (bool poker : {true, false}) {
     for (const Caso& c : casos) {
