@@ -168,20 +168,8 @@ class BettingTest : public GameTest {
     vb::ScriptRnd({});
     return out;
   }
-  // Whether a speech is one of the lines of a key, whichever line the draw fell on.
-  static bool DaChave(const Falado& f, const Chave& c) {
-    bool achou = false;
-    for (int i = 0; i < 20 && !achou; ++i) {
-      vb::ScriptRnd({(i + 0.5f) / 20});
-      const Fala d = FalaDe(c.poker, c.chave, c.fichas);
-      achou = f == Falado{c.poker, d.Nome, d.Linha1, d.Linha2};
-    }
-    vb::ScriptRnd({});
-    return achou;
-  }
-  std::string Linha2(bool poker) { return Caption(Balao(poker)(2)); }
-  vb::ControlArray<>& Balao(bool poker) {
-    return poker ? F().LabelPokerCaption : F().LabelPlayerCaption;
+  std::string Linha2(bool poker) {
+    return Caption((poker ? F().LabelPokerCaption : F().LabelPlayerCaption)(2));
   }
 
   // The piles of a side, and its total as the stack says.
@@ -203,10 +191,6 @@ class BettingTest : public GameTest {
     for (const Denominacao& d : kDenominacoes)
       total += ContagemPilha(bar.Button(d.botao)) * d.valor;
     return total;
-  }
-  int Contagem(bool poker, const Denominacao& d) {
-    vb::Control& bar = poker ? F().ToolbarPokerCoins : F().ToolbarPlayerCoins;
-    return ContagemPilha(bar.Button(d.botao));
   }
   // A side's table chips as the sweep counts them: up to the first hidden picture.
   vb::ControlArray<>& Monte(bool poker) {
