@@ -234,50 +234,20 @@ TEST_F(FinalRound, HerAnswerToHisFirstBet) {
     const char* fala_dela;
     const char* fala_dele;
   };
+  // clang-format off
   const Row rows[] = {
       // Mood 1 against a small bet, nothing in hand: she gives up, and tells him what he won.
-      {"gives up",
-       kNada,
-       100,
-       {Humor(1), L},
-       50,
-       2000,
-       0,
-       0,
-       100,
-       90 + 31,
-       false,
-       "Nossa!, |Você e louco",
-       "|Ganhou!, então vai levar as 31 Fichas"},
+      {"gives up", kNada, 100, {Humor(1), L}, 50, 2000, 0, 0, 100, 90 + 31, false,
+       "Nossa!, |Você e louco", "|Ganhou!, então vai levar as 31 Fichas"},
       // A flush, mood 0: his 10 plus 10 to 19.
-      {"raises",
-       kCor,
-       100,
-       {Humor(0), Faixa(10, 19, 15), L, L},
-       31,
-       1500,
-       35,
-       20,
-       75,
-       90,
-       true,
-       "Vou AAAumentar |essa, amor mais 15 Fichas",
-       "Vai!,|Cubra aposta 15 Fichas"},
+      {"raises", kCor, 100, {Humor(0), Faixa(10, 19, 15), L, L}, 31, 1500, 35, 20, 75, 90, true,
+       "Vou AAAumentar |essa, amor mais 15 Fichas", "Vai!,|Cubra aposta 15 Fichas"},
       // She covers with her last 5 chips; his surplus stays on the table.
-      {"all in and short",
-       kNada,
-       5,
-       {Humor(0), L},
-       40,
-       1500,
-       15,
-       20,
-       0,
-       90,
-       false,
-       "Vou Dar |Todinhas minhas 5 Fichas",
-       "Aposto,|faço Aposta final de 10 Fichas"},
+      {"all in and short", kNada, 5, {Humor(0), L}, 40, 1500, 15, 20, 0, 90, false,
+       "Vou Dar |Todinhas minhas 5 Fichas", "Aposto,|faço Aposta final de 10 Fichas"},
   };
+  // clang-format on
+
   for (const Row& r : rows) {
     SCOPED_TRACE(r.name);
     Fresh();
