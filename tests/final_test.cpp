@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "betting/betting.h"
+#include "betting_fixture.h"
 #include "chips/chips.h"
 #include "core/deck.h"
 #include "core/hand_cycle.h"
 #include "opponent/leyendas.h"
 #include "opponent/troca.h"
 #include "support.h"
-#include "table_fixture.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ constexpr Hand5 kParCinco = {"5C", "5D", "QP", "8T", "2C"};  // a pair of fives
 constexpr Hand5 kTrio = {"8C", "8D", "8P", "KT", "2D"};      // three eights
 constexpr Hand5 kCor = {"AC", "JC", "9C", "6C", "4C"};       // a flush
 
-class FinalRound : public MesaMontada {
+class FinalRound : public BettingTest {
  protected:
   // The table as the final round finds it after the exchange: her chips and his in front of
   // them, the opening stakes lying on the table as chips, the centre pot, both hands; Fase 30 and

@@ -18,23 +18,6 @@ namespace {
 constexpr std::uint64_t kEstadoAbre = 0;
 constexpr std::uint64_t kEstadoPassa = 9;
 
-// What a side's balloon said, in order.
-struct Fala3 {
-  bool lado;
-  std::string nome, linha1, linha2;
-};
-std::vector<Fala3> g_falas;
-void GuardarFala(bool Lado) {
-  auto& l = Lado ? Frm_Principal().LabelPokerCaption : Frm_Principal().LabelPlayerCaption;
-  g_falas.push_back({Lado, l(0).Caption.get(), l(1).Caption.get(), l(2).Caption.get()});
-}
-std::vector<Fala3> FalasDe(bool lado) {
-  std::vector<Fala3> r;
-  for (const auto& f : g_falas)
-    if (f.lado == lado) r.push_back(f);
-  return r;
-}
-
 // Moments of the start-up: the shuffle dialog loading and unloading, the phase moving.
 std::vector<std::pair<std::int64_t, std::string>> g_momentos;
 void GuardarFase(const std::string& /*from*/, const std::string& to) {
@@ -45,13 +28,10 @@ class HandCycle : public GameTest, public vb::Listener {
  protected:
   void SetUp() override {
     GameTest::SetUp();
-    g_falas.clear();
+    Falas().clear();
     g_momentos.clear();
   }
-  void Watch() override {
-    g_depois_da_fala = GuardarFala;
-    FaseVar::Observe(GuardarFase);
-  }
+  void Watch() override { FaseVar::Observe(GuardarFase); }
   void Comecar(std::uint64_t estado) {
     Fresh(estado);
     vb::Engine::Get().AddListener(this);
@@ -111,7 +91,7 @@ TEST_F(HandCycle, HerFirstMoveThenThePlayersTurn) {
   for (const Caso& c : {Caso{kEstadoAbre, true, 3200 + 7500 + 1500},
                         Caso{kEstadoPassa, false, 3200 + 7500 + 800}}) {
     SCOPED_TRACE(c.abre ? "she opens" : "she passes");
-    g_falas.clear();
+    Falas().clear();
     g_momentos.clear();
     Comecar(c.estado);
 
@@ -173,7 +153,7 @@ TEST_F(HandCycle, TheSecondHandIsThePlayersAnteAndFirstBlock) {
   Comecar(kEstadoAbre);
   ASSERT_TRUE(Click("CmdSair", 0));  // he gives up her opening
   ASSERT_EQ(static_cast<int>(Fase), 50);
-  g_falas.clear();
+  Falas().clear();
   const std::int64_t t0 = host->Now();
   ASSERT_TRUE(Click("CmdMaisUma"));
 
@@ -270,7 +250,7 @@ TEST_F(HandCycle, HerFinalRoundMoveKeepsHerOpeningChips) {
     Comecar(kEstadoAbre);
     ASSERT_EQ(fichas_na_mesa(), 13);
     Fase = 30;
-    g_falas.clear();
+    Falas().clear();
     vb::ScriptRnd({(humor + 0.5f) / 9});
     const std::int64_t t0 = host->Now();
     IniciarApostas();

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "betting/betting.h"
+#include "betting_fixture.h"
 #include "chips/chips.h"
 #include "core/deck.h"
 #include "core/hand_cycle.h"
@@ -16,7 +17,6 @@
 #include "platform/runtime.h"
 #include "platform/settings.h"
 #include "support.h"
-#include "table_fixture.h"
 
 namespace {
 
@@ -29,7 +29,7 @@ constexpr Hand5 kTrio = {"8C", "8D", "8P", "KT", "2D"};      // three eights
 constexpr Hand5 kCorCopas = {"AC", "JC", "9C", "6C", "4C"};  // a flush, ace high
 constexpr Hand5 kCorOuros = {"AD", "QD", "8D", "5D", "3D"};  // another, ace high
 
-class Showdown : public MesaMontada {
+class Showdown : public BettingTest {
  protected:
   // A hand that reached the showdown: the stakes on the table as chips, both hands dealt, her
   // cards face down, the showdown frame up.

@@ -141,37 +141,6 @@ TEST_F(FrontTest, EachControlGetsItsWidgetAtItsPlace) {
   EXPECT_EQ(As<QLineEdit>(table->name_box)->text(), QStringLiteral("João"));
 }
 
-TEST_F(FrontTest, ToolbarButtonsStandWhereTheTableExpectsThem) {
-  Show();
-  // The card strip: a narrow gap, a card, a gap between cards, a card.
-  ASSERT_NE(screen->ButtonOf(*table->toolbar, 4), nullptr);
-  EXPECT_TRUE(screen->ButtonOf(*table->toolbar, 1)->isHidden());
-  EXPECT_EQ(screen->ButtonOf(*table->toolbar, 2)->geometry(), QRect(2, 0, 78, 103));
-  EXPECT_EQ(screen->ButtonOf(*table->toolbar, 4)->geometry(), QRect(93, 0, 78, 103));
-
-  // A stack strip: each pile under its chip place, at 600 + 1920 i twips.
-  vb::Form stack("FrmPilhas");
-  vb::ImageList& potes = stack.AddImageList("ImageListPotes");
-  for (const char* key : {"F01_00", "F05_03", "F10_00", "F50_00"}) potes.Add("potes/F05_03", key);
-  vb::Control& bar = stack.Add(vb::Kind::Toolbar, "ToolbarPlayerCoins");
-  bar.Move(0, 0, 11610, 705);
-  bar.images = &potes;
-  for (const char* key : {"F01", "F05", "F10", "F50"}) {
-    bar.AddButton();
-    bar.AddButton(key);
-  }
-  stack.Width = 12000;
-  stack.Height = 2000;
-  Engine::Get().Show(stack);
-  bar.Button("F05").SetImage("F05_03");
-  for (int i = 0; i < 4; ++i) {
-    auto* pile = screen->ButtonOf(bar, 2 * (i + 1));
-    ASSERT_NE(pile, nullptr);
-    EXPECT_EQ(pile->geometry(), QRect(40 + 128 * i, 0, 88, 44)) << i;
-  }
-  Engine::Get().Forget(stack);
-}
-
 TEST_F(FrontTest, ClicksThroughQtRunTheGamesHandlers) {
   Show();
   QTest::mouseClick(W(table->acabei), Qt::LeftButton);
@@ -393,24 +362,6 @@ TEST_F(FrontTest, TheMenuKeyAndShiftF10AreTheKeyboardsRightButton) {
   EXPECT_EQ(forms, 2);
   QTest::keyClick(window, Qt::Key_F10);  // without Shift it is just a key
   EXPECT_EQ(forms, 2);
-}
-
-TEST_F(FrontTest, ScreenshotOfTheSampleTable) {
-  QWidget* window = Show();
-  table->toolbar->Button(2).SetEnabled(false);  // a marked card looks greyed
-  table->toolbar->Button(4).SetValue(1);
-  table->pago->SetFocus();
-  QTest::qWait(50);
-  const QImage shot = window->grab().toImage();
-  const QString path = QStringLiteral(POKERZEVA_BINARY_DIR "/front_sample.png");
-  ASSERT_TRUE(shot.save(path));
-  std::printf("screenshot: %s\n", qPrintable(path));
-  EXPECT_EQ(shot.pixelColor(5, 60), QColor(0x1A, 0x68, 0x02));  // the felt
-  // The card KP, centred in its button at (93, 72) of the felt, sunk by one pixel: white face.
-  EXPECT_EQ(shot.pixelColor(93 + 3 + 1 + 8, 72 + 3 + 1 + 8), QColor(Qt::white));
-  // The tiny chip is cut to its 16 x 6 box: the felt shows just below it.
-  EXPECT_EQ(shot.pixelColor(288, 27), QColor(0x1A, 0x68, 0x02));
-  EXPECT_NE(shot.pixelColor(288, 24), QColor(0x1A, 0x68, 0x02));
 }
 
 TEST(FrontPictures, EachPictureIsMadeAtTheSizeItCovers) {
