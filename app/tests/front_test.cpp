@@ -242,8 +242,6 @@ TEST_F(FrontTest, TheGameOwnsTheFocusAndTheKeys) {
   };
   const Step steps[] = {
       {Qt::Key_Tab, Qt::NoModifier, table->acabei},
-      {Qt::Key_Tab, Qt::NoModifier, table->esperar},
-      {Qt::Key_Backtab, Qt::ShiftModifier, table->acabei},
       {Qt::Key_Backtab, Qt::ShiftModifier, table->pago},
       {Qt::Key_Backtab, Qt::ShiftModifier, table->chip_place},
   };
