@@ -132,8 +132,8 @@ TEST_F(OpeningRound, HisFirstEmptyTurnIsAWarningTheSecondASurrender) {
 
 // The player opened, she had nothing on the table: "CUBRE1".
 TEST_F(OpeningRound, AgainstHisOpeningSheCoversRaisesOrGivesUp) {
-  const Lance abriu{.abertura_player = 30, .mao = true};
   // clang-format off
+  const Lance abriu{.abertura_player = 30, .mao = true};
   JogarTodos({
       {.nome = "his opening, cover", .lance = abriu, .roteiro = {kLinha, Humor(0), kLinha},
        .humor = 0, .falas = {{false, "ELEABRIU", 30}, {true, "EUCUBRIABRE", 30}},
@@ -166,9 +166,9 @@ TEST_F(OpeningRound, AgainstHisOpeningSheCoversRaisesOrGivesUp) {
 
 // The player raised over her first level: "CUBRE2".
 TEST_F(OpeningRound, AgainstHisRaiseSheCoversRaisesOrGivesUp) {
-  const Lance aumentou{
-      .fase = 11, .abertura_player = 30, .aumento_player = 20, .abertura_poker = 30};
   // clang-format off
+  const Lance aumentou{.fase = 11, .abertura_player = 30, .aumento_player = 20,
+                       .abertura_poker = 30};
   JogarTodos({
       // He laid 60 against her 40 in one go; her covered line names her own 20, not his 60.
       {.nome = "his raise, cover", .lance = {.abertura_player = 60, .abertura_poker = 40},
@@ -190,13 +190,9 @@ TEST_F(OpeningRound, AgainstHisRaiseSheCoversRaisesOrGivesUp) {
 
 // Her third answer, "CUBRE3": she covers or gives up, never raises, and speaks first.
 TEST_F(OpeningRound, AgainstHisSecondRaiseSheCoversOrGivesUp) {
-  const Lance terceiro{.fase = 12,
-                       .abertura_player = 30,
-                       .aumento_player = 30,
-                       .total_player = 40,
-                       .abertura_poker = 30,
-                       .aumento_poker = 30};
   // clang-format off
+  const Lance terceiro{.fase = 12, .abertura_player = 30, .aumento_player = 30, .total_player = 40,
+                       .abertura_poker = 30, .aumento_poker = 30};
   JogarTodos({
       {.nome = "his second raise, cover", .lance = terceiro, .roteiro = {Humor(4), kLinha},
        .humor = 4, .falas = {{false, "ELEAUMENTOUABRE", 40}, {true, "EUCUBRIABRE", 40}},
@@ -221,17 +217,11 @@ TEST_F(OpeningRound, AgainstHisSecondRaiseSheCoversOrGivesUp) {
 
 // The player raised at phase 13; she is not asked. Her stake is his chips less hers.
 TEST_F(OpeningRound, AgainstHisLastRaiseSheStakesHisChipsLessHersUnclamped) {
-  const Lance quarto{.fase = 13,
-                     .abertura_player = 100,
-                     .aumento_player = 100,
-                     .total_player = 100,
-                     .abertura_poker = 100,
-                     .aumento_poker = 100,
-                     .total_poker = 100,
-                     .extra_player = 100,
-                     .pilha_player = {0, 10, 5, 0},   // 100
-                     .pilha_poker = {10, 10, 9, 3}};  // 300
   // clang-format off
+  const Lance quarto{.fase = 13, .abertura_player = 100, .aumento_player = 100, .total_player = 100,
+                     .abertura_poker = 100, .aumento_poker = 100, .total_poker = 100,
+                     .extra_player = 100, .pilha_player = {0, 10, 5, 0},
+                     .pilha_poker = {10, 10, 9, 3}};
   JogarTodos({
       // 100 - 300 = -200: she takes 200 off her side of the table into her stack.
       {.nome = "his last raise, negative", .lance = quarto, .roteiro = {kLinha}, .humor = -1,
@@ -289,20 +279,11 @@ TEST_F(OpeningRound, HisCoverOfHerLastLevelGoesToTheExchange) {
 
 // Level after her second level: "CUBRE3" on the analysis of her last question.
 TEST_F(OpeningRound, HisCoverOfHerRaiseLetsHerRaiseOnceMoreWithoutAFreshLook) {
-  const Lance raise{.fase = 11,
-                    .abertura_player = 30,
-                    .aumento_player = 20,
-                    .abertura_poker = 30,
-                    .aumento_poker = 20,
-                    .mao = true};
-  const Lance coberto{.fase = 12,
-                      .abertura_player = 30,
-                      .aumento_player = 20,
-                      .total_player = 10,
-                      .abertura_poker = 30,
-                      .aumento_poker = 30,
-                      .mao = true};
   // clang-format off
+  const Lance raise{.fase = 11, .abertura_player = 30, .aumento_player = 20, .abertura_poker = 30,
+                    .aumento_poker = 20, .mao = true};
+  const Lance coberto{.fase = 12, .abertura_player = 30, .aumento_player = 20, .total_player = 10,
+                      .abertura_poker = 30, .aumento_poker = 30, .mao = true};
   const std::vector<Caso> casos = {
       // He covered her raise with a third level: 0 in every mood, she stays.
       {.nome = "his cover of her raise, stays", .lance = coberto, .roteiro = {Humor(2)}, .humor = 2,

@@ -2,7 +2,6 @@
 // dialog opened from its entry, pressed and closed with its close box.
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -37,12 +36,6 @@ class Options : public ::testing::Test {
     session_->Start();
   }
   bool Play(const std::string& line) { return session_->Play(line, ++line_); }
-  // The next hand played to its end by giving it up.
-  void NextHand() {
-    ASSERT_TRUE(Play("more"));
-    ASSERT_TRUE(Play("giveup"));
-    ASSERT_EQ(static_cast<int>(Fase), 50);
-  }
   std::string Caption(vb::Control& c) { return c.Caption.get(); }
   // The sound commands printed since the last call.
   std::vector<std::string> Sent() {
@@ -126,35 +119,6 @@ TEST(ChipValue, ReadsOnlyAPlainDecimalNumber) {
   EXPECT_EQ(LerValorFicha("0." + std::string(400, '0') + "1"), 0.0f);
 }
 
-TEST_F(Options, TheChipValueCountsOnlyInTheFirstHand) {
-  ASSERT_TRUE(Play("menu vficha \"7,50\""));
-  EXPECT_EQ(ValorFicha, 7.5f);
-  EXPECT_EQ(Caption(Frm_Principal().LabelPlayerMoney), "$ " + vb::FormatMoney(FichasPlayer * 7.5));
-  ASSERT_TRUE(Play("menu vficha \"9\""));
-  NextHand();
-  NextHand();  // the third hand: the dialog takes a value, the table goes back to 5
-  ASSERT_TRUE(Play("menu vficha \"2\""));
-  EXPECT_EQ(ValorFicha, 5.0f);
-  EXPECT_EQ(Caption(Frm_Principal().LabelPlayerMoney), "$ " + vb::FormatMoney(FichasPlayer * 5.0));
-}
-
-TEST_F(Options, ChipsAreRebuiltOnlyInTheFirstHand) {
-  ASSERT_TRUE(Play("menu nrofichas 1"));  // 330 each, at once
-  EXPECT_EQ(FichasPlayer, 330);
-  EXPECT_EQ(FichasPoker, 330);
-  EXPECT_EQ(static_cast<int>(MesaPingo), 0);
-  EXPECT_EQ(static_cast<int>(LimiteFichas), 150);  // the limit is not touched
-  NextHand();
-  const int player = FichasPlayer, poker = FichasPoker;
-  ASSERT_TRUE(Play("menu nrofichas 1"));  // later, only the number changes
-  EXPECT_EQ(static_cast<int>(NroFichas), 660);
-  EXPECT_EQ(FichasPlayer, player);
-  EXPECT_EQ(FichasPoker, poker);
-  // "Nova" then deals 990 whatever was chosen.
-  ASSERT_TRUE(Play("menu nova"));
-  EXPECT_EQ(FichasPlayer, 990);
-}
-
 TEST_F(Options, NewGameKeepsTheTieTheHandCountAndTheBack) {
   JogoEmpatado = true;
   Dorso = 3;
@@ -164,26 +128,6 @@ TEST_F(Options, NewGameKeepsTheTieTheHandCountAndTheBack) {
   EXPECT_EQ(Dorso, 3);
   EXPECT_EQ(static_cast<int>(NroMao), mao);
   EXPECT_EQ(static_cast<int>(Fase), 50);
-}
-
-TEST_F(Options, NewGameSweepsChipsLeftOnTheTable) {
-  StartAt(9);  // she passes; so does the player: the ante stays on the table
-  ASSERT_TRUE(Play("click CmdAcabei 0"));
-  ASSERT_EQ(static_cast<int>(Fase), 50);
-  ASSERT_GT(static_cast<int>(MesaPingo), 0);
-  ASSERT_TRUE(Play("menu nova"));
-  EXPECT_EQ(static_cast<int>(MesaPingo), 0);
-  EXPECT_EQ(FichasPlayer + FichasPoker, 2 * 990);
-}
-
-TEST_F(Options, MenuLinesFollowTheirGrammarAndTheTable) {
-  for (const char* bad :
-       {"menu", "menu nova now", "menu nrocartas -1", "menu troca 1 2", "menu nome João",
-        "menu nome \"x", "menu fundos 11", "menu creditos", "menu verbaralho", "state now"})
-    EXPECT_FALSE(Play(bad)) << bad;
-  ASSERT_TRUE(Play("more"));  // a hand on the table: no menu
-  EXPECT_FALSE(Play("menu nova"));
-  EXPECT_TRUE(Play("state"));
 }
 
 }  // namespace
