@@ -1,6 +1,6 @@
 // The player's buttons: cover (CmdPago) in both rounds, all in (CmdTudo) with and without the
-// opening limit, take back (CmdDesfazer), end the turn (CmdAcabei), walk away (CmdSair), and a
-// whole turn played on the keyboard alone.
+// opening limit, take back (CmdDesfazer), and walk away (CmdSair); ending the turn
+// with nothing staked is played by the replays.
 #include <string>
 #include <vector>
 
@@ -282,20 +282,6 @@ TEST_F(PlayerCommands, CmdDesfazerInTheExchangeUndoesTheMarks) {
   for (int i = 0; i <= 4; ++i) EXPECT_TRUE(F().PicCartasPlayer(i).Visible) << i;
   EXPECT_EQ(F().ActiveControl(), &F().PicCartasPlayer(0));
   EXPECT_EQ(MarcadasTroca, 0);
-}
-
-// Ending the turn with nothing staked is a pass: the hand goes to her, and she answers.
-TEST_F(PlayerCommands, CmdAcabeiWithNothingStakedPassesTheHand) {
-  Montar({.mao = false});
-  MostrarSeta(false);
-  Gravar();
-  vb::ScriptRnd({kLinha, Humor(0), kLinha, kLinha});
-  ASSERT_TRUE(Click("CmdAcabei", 0));
-  EXPECT_TRUE(MaoPlayer);
-  EXPECT_EQ(F().PictureMão.Picture.get(), F().ImageListExtras.PictureOf("SetaAcima"));
-  EXPECT_EQ(Falas(), Ditos({{false, "ELEPASSOU"}, {true, "EUPASSEI"}, {false, "ELEPASSOU"}}));
-  EXPECT_EQ(static_cast<int>(Fase), 50);  // she passed too
-  EXPECT_EQ(MesaPingo, 2);
 }
 
 struct Sair {
