@@ -3,6 +3,7 @@
 // lines, every speech as it reached the balloons, every sound command in order.
 #pragma once
 
+#include <array>
 #include <deque>
 #include <initializer_list>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "betting/betting.h"
 #include "chips/chips.h"
+#include "core/deck.h"
 #include "core/hand_cycle.h"
 #include "game_fixture.h"
 #include "opponent/leyendas.h"
@@ -19,21 +21,6 @@
 
 // The draw that picks the first line of a drawn key.
 inline constexpr float kLinha = 0.01f;
-
-// One speech as the balloon showed it, with the table at that moment.
-struct Falado {
-  bool poker;
-  std::string nome, linha1, linha2;
-  int pote = 0, apostas = 0, fichas_player = 0;
-  bool operator==(const Falado& o) const {
-    return poker == o.poker && nome == o.nome && linha1 == o.linha1 && linha2 == o.linha2;
-  }
-};
-
-inline std::ostream& operator<<(std::ostream& os, const Falado& f) {
-  return os << (f.poker ? "ZEVA" : "player") << " [" << f.nome << "|" << f.linha1 << "|" << f.linha2
-            << "]";
-}
 
 // A speech by its key, as the game says it when the draw of a line falls on the first one.
 struct Chave {
@@ -56,6 +43,8 @@ struct Lance {
   int pilha_player[4] = {10, 10, 10, 10};
   int pilha_poker[4] = {10, 10, 10, 10};
 };
+
+using Hand5 = std::array<const char*, 5>;
 
 // Two five-card hands, each sorted highest first: "KC KD 9P 5T 2C".
 inline constexpr const char* kFracaDela = "KC KD 9P 5T 2C";  // a pair of kings
@@ -102,10 +91,7 @@ class BettingTest : public GameTest {
     Roteiro().clear();
     Falas().clear();
   }
-  void Watch() override {
-    g_depois_da_fala = Ouvir;
-    FaseVar::Observe(FaseMudou);
-  }
+  void Watch() override { FaseVar::Observe(FaseMudou); }
 
   // What the round leaves before it hands the table to the exchange: the first move of the phase
   // to 20 cuts the records there, since her own exchange speaks and plays after it.
@@ -124,10 +110,6 @@ class BettingTest : public GameTest {
     static std::deque<float> r;
     return r;
   }
-  static std::vector<Falado>& Falas() {
-    static std::vector<Falado> f;
-    return f;
-  }
   static void FaseMudou(const std::string&, const std::string& to) {
     if (to == "10" && !Roteiro().empty()) {
       vb::ScriptRnd(Roteiro());
@@ -137,12 +119,6 @@ class BettingTest : public GameTest {
       Corte() = {true,   vb::MciSent().size(), Falas().size(), vb::ScriptedRndLeft(), JogoPoker,
                  Semente};
     }
-  }
-  static void Ouvir(bool lado) {
-    auto& f = Frm_Principal();
-    vb::ControlArray<>& l = lado ? f.LabelPokerCaption : f.LabelPlayerCaption;
-    Falas().push_back({lado, l(0).Caption.get(), l(1).Caption.get(), l(2).Caption.get(), MesaPote,
-                       MesaApostas, FichasPlayer});
   }
 
   // The records up to the cut, if one was made.
@@ -168,20 +144,46 @@ class BettingTest : public GameTest {
     vb::ScriptRnd({});
     return out;
   }
-  // Whether a speech is one of the lines of a key, whichever line the draw fell on.
-  static bool DaChave(const Falado& f, const Chave& c) {
-    bool achou = false;
-    for (int i = 0; i < 20 && !achou; ++i) {
-      vb::ScriptRnd({(i + 0.5f) / 20});
-      const Fala d = FalaDe(c.poker, c.chave, c.fichas);
-      achou = f == Falado{c.poker, d.Nome, d.Linha1, d.Linha2};
-    }
-    vb::ScriptRnd({});
-    return achou;
+  std::string Linha2(bool poker) {
+    return Caption((poker ? F().LabelPokerCaption : F().LabelPlayerCaption)(2));
   }
-  std::string Linha2(bool poker) { return Caption(Balao(poker)(2)); }
-  vb::ControlArray<>& Balao(bool poker) {
-    return poker ? F().LabelPokerCaption : F().LabelPlayerCaption;
+
+  // One side's stack built anew with `n` chips, spread over the four piles as at the start.
+  void Pilha(bool poker, int n, bool espalhar = true) {
+    vb::Control& bar = poker ? F().ToolbarPokerCoins : F().ToolbarPlayerCoins;
+    for (const Denominacao& d : kDenominacoes) {
+      bar.Button(d.botao).SetImage(ChavePilha(d, 0));
+      bar.Button(d.botao).SetEnabled(n > 0);
+    }
+    (poker ? FichasPoker : FichasPlayer) = 0;
+    PilhaDeFichas(poker, n);
+    if (espalhar && n > 0) TrocarFichas(poker, true);
+  }
+  // The game started, then the table replaced by this one: her chips and his in front of them,
+  // their stakes laid on the table as chips moved whole from a stack of just those chips, the
+  // centre pot and both hands, sorted.
+  void Dispor(int poker, int player, int apostas, int pote, int pingo, const Hand5& dela,
+              const Hand5& dele) {
+    IniciarJogo();
+    MoverFichas(true, 0, false);
+    MoverFichas(false, 0, false);
+    MesaApostas = 0;
+    MesaPote = 0;
+    MesaPingo = pingo;
+    FichasNaMesa();
+    for (const auto& [lado, n] : {std::pair{true, apostas}, std::pair{false, pote}}) {
+      Pilha(lado, n, false);
+      MoverFichas(lado, n, true);
+    }
+    Pilha(true, poker);
+    Pilha(false, player);
+    AtualizarLabels();
+    for (int i = 1; i <= 5; ++i) {
+      CartasPoker[i] = dela[i - 1];
+      CartasPlayer[i] = dele[i - 1];
+    }
+    OrdenarCartas(true);
+    OrdenarCartas(false);
   }
 
   // The piles of a side, and its total as the stack says.
@@ -203,10 +205,6 @@ class BettingTest : public GameTest {
     for (const Denominacao& d : kDenominacoes)
       total += ContagemPilha(bar.Button(d.botao)) * d.valor;
     return total;
-  }
-  int Contagem(bool poker, const Denominacao& d) {
-    vb::Control& bar = poker ? F().ToolbarPokerCoins : F().ToolbarPlayerCoins;
-    return ContagemPilha(bar.Button(d.botao));
   }
   // A side's table chips as the sweep counts them: up to the first hidden picture.
   vb::ControlArray<>& Monte(bool poker) {

@@ -179,54 +179,6 @@ TEST_F(FormEngine, ClosingTheMainFormDuringAWaitRunsTheUnloadAndEnds) {
   EXPECT_FALSE(resumed);
 }
 
-TEST_F(FormEngine, ClosingAMarkedDialogEndsTheGameThroughTheMainUnload) {
-  bool main_unloaded = false;
-  main->Unload = [&](int&) { main_unloaded = true; };
-  vb::Form dialog("Shuffle");
-  dialog.close_ends_game = true;
-  vb::Control& t = dialog.Add(vb::Kind::Timer, "T");
-  t.Interval = 50;
-  t.Enabled = true;
-  vb::Input close;
-  close.type = vb::Input::Type::Close;
-  close.form = &dialog;
-  host->QueueAt(120, close);
-  bool after = false;
-  try {
-    vb::Engine::Get().Show(dialog, true);
-    after = true;
-  } catch (const vb::ProgramEnded& e) {
-    EXPECT_EQ(e.how, vb::EndHow::Unloaded);
-  }
-  EXPECT_TRUE(main_unloaded);
-  EXPECT_FALSE(after);
-}
-
-TEST_F(FormEngine, EndRunsNoUnloadAndHangRefusesInput) {
-  bool unloaded = false;
-  main->Unload = [&](int&) { unloaded = true; };
-  try {
-    vb::Engine::Get().End();
-  } catch (const vb::ProgramEnded& e) {
-    EXPECT_EQ(e.how, vb::EndHow::End);
-  }
-  EXPECT_FALSE(unloaded);
-
-  EXPECT_THROW(vb::Engine::Get().Hang(), vb::ProgramHung);
-  EXPECT_EQ(main->Caption.get(), std::string("Jogo") + vb::kNotResponding);
-  EXPECT_FALSE(vb::Engine::Get().Deliver(Click("CmdOk")));
-  vb::Input close;
-  close.type = vb::Input::Type::Close;
-  close.form = main.get();
-  try {
-    vb::Engine::Get().Deliver(close);
-    FAIL();
-  } catch (const vb::ProgramEnded& e) {
-    EXPECT_EQ(e.how, vb::EndHow::HungClose);
-  }
-  EXPECT_FALSE(unloaded);
-}
-
 TEST_F(FormEngine, AClickTakesTheFocusEvenWhenLostFocusMovesIt) {
   // A LostFocus handler that wraps the focus back does not stop the click.
   pics(0).SetFocus();

@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
 #include <string>
+#include <vector>
 
 #include "core/game_state.h"
 #include "core/start.h"
@@ -15,6 +17,21 @@
 #include "platform/settings.h"
 #include "platform/virtual_host.h"
 #include "table/frm_principal.h"
+
+// One speech as the balloon showed it, with the table at that moment.
+struct Falado {
+  bool poker;
+  std::string nome, linha1, linha2;
+  int pote = 0, apostas = 0, fichas_player = 0;
+  bool operator==(const Falado& o) const {
+    return poker == o.poker && nome == o.nome && linha1 == o.linha1 && linha2 == o.linha2;
+  }
+};
+
+inline std::ostream& operator<<(std::ostream& os, const Falado& f) {
+  return os << (f.poker ? "ZEVA" : "player") << " [" << f.nome << "|" << f.linha1 << "|" << f.linha2
+            << "]";
+}
 
 class GameTest : public ::testing::Test {
  protected:
@@ -26,11 +43,31 @@ class GameTest : public ::testing::Test {
   void Fresh(std::uint64_t seed = 0) {
     ResetProcess(seed);
     host = std::make_unique<vb::VirtualHost>();
+    Falas().clear();
+    g_depois_da_fala = Ouvir;
     Watch();
   }
   // The hooks a fixture watches the game through, set again after every fresh start.
   virtual void Watch() {}
   FrmPrincipal& F() { return Frm_Principal(); }
+
+  // Every speech since the last fresh start, as it reached the balloons; and one side's.
+  static std::vector<Falado>& Falas() {
+    static std::vector<Falado> f;
+    return f;
+  }
+  static std::vector<Falado> FalasDe(bool poker) {
+    std::vector<Falado> r;
+    for (const Falado& f : Falas())
+      if (f.poker == poker) r.push_back(f);
+    return r;
+  }
+  static void Ouvir(bool lado) {
+    vb::ControlArray<>& l =
+        lado ? Frm_Principal().LabelPokerCaption : Frm_Principal().LabelPlayerCaption;
+    Falas().push_back({lado, l(0).Caption.get(), l(1).Caption.get(), l(2).Caption.get(), MesaPote,
+                       MesaApostas, FichasPlayer});
+  }
 
   vb::Input On(const std::string& control, int index = -1,
                vb::Input::Type type = vb::Input::Type::Click) {

@@ -20,22 +20,6 @@ class Menu : public GameTest {
   }
 };
 
-TEST_F(Menu, HouseRulesAndTheLimitFollowTheirMarks) {
-  EXPECT_TRUE(TrioMataEscada);
-  ASSERT_TRUE(Choose("MnuTrioXEscada"));
-  EXPECT_FALSE(TrioMataEscada);
-  EXPECT_FALSE(F().MnuTrioXEscada.Checked);
-  ASSERT_TRUE(Choose("MnuFullxCor"));
-  EXPECT_TRUE(FullMataCor);
-  EXPECT_TRUE(F().MnuFullxCor.Checked);
-  ASSERT_TRUE(Choose("MnuLimite"));
-  EXPECT_FALSE(LimiteAbertura);
-  EXPECT_EQ(static_cast<int>(LimiteFichas), 990);  // the whole stake of chips
-  ASSERT_TRUE(Choose("MnuLimite"));
-  EXPECT_TRUE(LimiteAbertura);
-  EXPECT_EQ(static_cast<int>(LimiteFichas), 150);
-}
-
 TEST_F(Menu, EffectsTurnTheSoundOnForTheNextHand) {
   ASSERT_TRUE(Choose("MnuEfeitos"));
   EXPECT_TRUE(EfeitosOn);
