@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/forms.h"
 
@@ -35,3 +36,7 @@ void EncherImageListBarajando(vb::ImageList& store);
 // whose last two images are "FRENTE" and "DORSO" (the first design at the start).
 void EncherImageListReves(vb::ImageList& store);
 void EncherImageListtESTE(vb::ImageList& store);
+
+// Every picture that the stores above hold, and the balloon, each once: what must be at hand before
+// the game starts.
+std::vector<std::string> PicturesDoJogo();

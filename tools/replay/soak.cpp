@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
+#include <fstream>
 #include <random>
 #include <set>
 #include <sstream>
@@ -336,8 +337,21 @@ class ChipWatch : public vb::Listener {
       Made(chip_rule::kNegative, screen);
       screen = 0;
     }
-    if (screen != 0 && (ones_change_[p] || ones_change_[k] || placed_[p] || placed_[k])) {
-      Made(chip_rule::kOnes, screen);
+    if (ones_change_[p] || ones_change_[k] || placed_[p] || placed_[k]) {
+      // Short of ones, MoverFichas shows only the ones the stack had on the table and takes only
+      // the shortage from the stack: the table shows fewer chips than its counter and the stack
+      // more than its total. The two parts are booked apart, as they are taken up apart: the
+      // table's when it is swept, the stack's when it is counted again. They may even cancel out
+      // on the screen.
+      long long table_short = 0;
+      for (int s = 0; s < 2; ++s) {
+        if (!(ones_change_[s] || placed_[s]) || swept_[s]) continue;
+        const long long mesa = s == p ? MesaPote : static_cast<long long>(MesaApostas);
+        const long long moved = table_value_[s] - mesa - table_drift_[s] + unswept_[s];
+        if (moved < 0) table_short += moved;
+      }
+      Made(chip_rule::kOnes, table_short);
+      Made(chip_rule::kOnes, screen - table_short);
       screen = 0;
     }
     // Stakes split between the stack and the table may leave the screen's sum as it was while the
@@ -428,6 +442,31 @@ class ChipWatch : public vb::Listener {
   std::string trace_;
 };
 
+// The options of a game as the replay tool takes them.
+std::string OptionsText(const Options& o) {
+  std::string t = "--seed " + std::to_string(o.seed) + " --cards " + std::to_string(o.cards) +
+                  " --chips " + std::to_string(o.chips) + " --exchange " +
+                  std::to_string(o.exchange);
+  if (o.no_limit) t += " --no-limit";
+  if (o.full_beats_flush) t += " --full-beats-flush";
+  if (o.straight_beats_trips) t += " --straight-beats-trips";
+  if (o.effects) t += " --effects";
+  if (o.music) t += " --music";
+  return t;
+}
+
+// POKERZEVA_SOAK_KEEP=DIR keeps each game that the report flags as a replay script, with its
+// options in a file beside it: DIR/game-N.script and DIR/game-N.args.
+void Keep(int game, const Options& o, const std::vector<std::string>& lines, const char* why) {
+  const char* dir = std::getenv("POKERZEVA_SOAK_KEEP");
+  if (!dir) return;
+  const std::string base = std::string(dir) + "/game-" + std::to_string(game);
+  std::ofstream script(base + ".script");
+  script << "# " << why << "\n";
+  for (const std::string& line : lines) script << line << "\n";
+  std::ofstream(base + ".args") << OptionsText(o) << "\n";
+}
+
 }  // namespace
 
 SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
@@ -455,6 +494,9 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
     FaseVar::Observe(RecordFase);
     watch.action = "start";
     s.Start();
+    std::vector<std::string> lines;
+    const long long unexplained_before = r.unexplained_chips;
+    const char* flagged = nullptr;
     int line = 0;
     std::string last = "start";
     int last_fase = 0;
@@ -473,6 +515,11 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
       if (actions.empty()) {
         if (Fase == 10 && FichasPlayer == 0) {
           ++r.dead_ends;
+        } else if (Fase == 30 && FichasPlayer == 0) {
+          // The player has staked all he had and she has nothing to answer in the final round:
+          // with no chips he gets no turn, and no routine comes after hers.
+          ++r.no_turn_final;
+          flagged = "the player without chips at Fase 30: nothing to press";
         } else {
           // The player's turn with nothing of his to press; the example shows the table.
           std::string& example = r.stuck_examples[Fase * 2 + (FichasPlayer == 0 ? 0 : 1)];
@@ -484,6 +531,7 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
           ++r.stuck["nothing to press at Fase " + std::to_string(Fase) +
                     (FichasPlayer == 0 ? ", the player without chips (e.g. " : " (e.g. ") +
                     example + ")"];
+          flagged = "nothing to press";
         }
         break;
       }
@@ -493,11 +541,13 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
       last = a;
       last_fase = Fase;
       watch.action = a;
+      lines.push_back(a);
       s.Play(a, ++line);
       ++r.actions;
       settle();
       if (s.over()) break;
       watch.action = "wait";
+      lines.push_back("wait 100");
       s.Play("wait 100", ++line);
       settle();
     }
@@ -511,8 +561,11 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
         ++r.hung;
       } else {
         ++r.stuck["hung after '" + last + "' at Fase " + std::to_string(last_fase)];
+        flagged = "hung";
       }
     }
+    if (r.unexplained_chips != unexplained_before) flagged = "chips no rule explains";
+    if (flagged) Keep(g, o, lines, flagged);
     if (s.fault()) {
       ++r.faults[s.fault()];
       std::string where;
@@ -530,6 +583,10 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
   return r;
 }
 
+bool Unexpected(const SoakReport& r) {
+  return !r.fase_errors.empty() || !r.stuck.empty() || r.unexplained_chips != 0;
+}
+
 std::string Describe(const SoakReport& r) {
   std::ostringstream o;
   o << "games " << r.games << ", hands " << r.hands << ", actions " << r.actions
@@ -538,6 +595,8 @@ std::string Describe(const SoakReport& r) {
   for (auto& [cause, n] : r.fault_causes) o << "  fault " << cause << ": " << n << "\n";
   o << "  dead ends (no chips at Fase 10, nothing to press): " << r.dead_ends << "\n";
   o << "  hung (CmdTudo at Fase 13): " << r.hung << "\n";
+  o << "  no turn in the final round (the player without chips at Fase 30, nothing to press): "
+    << r.no_turn_final << "\n";
   for (auto& [what, n] : r.stuck) o << "  UNEXPECTED " << what << ": " << n << "\n";
   for (auto& [m, n] : r.fase_errors)
     o << "  UNEXPECTED Fase moved " << m << ": " << n << " times\n";
