@@ -57,6 +57,16 @@ void LigarEventos(FrmPrincipal& f) {
   }
 
   f.MnuNova.Click = MnuNova_Click;
+  f.MnuNroCartas.Click = MnuNroCartas_Click;
+  f.MnuNroFichas.Click = MnuNroFichas_Click;
+  f.MnuTroca.Click = MnuTroca_Click;
+  f.MnuVFicha.Click = MnuVFicha_Click;
+  f.MnuNome.Click = MnuNome_Click;
+  f.MnuFundos.Click = MnuFundos_Click;
+  f.MnuTrapassa.Click = MnuTrapassa_Click;
+  f.MnuVerBaralho.Click = MnuVerBaralho_Click;
+  f.MnuVerCartas.Click = MnuVerCartas_Click;
+  f.MnuAbout.Click = MnuAbout_Click;
   f.MnuLimite.Click = MnuLimite_Click;
   f.MnuFullxCor.Click = MnuFullxCor_Click;
   f.MnuTrioXEscada.Click = MnuTrioXEscada_Click;

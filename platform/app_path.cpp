@@ -11,6 +11,10 @@ std::string g_cur_dir = ".";
 const std::string& AppPath() {
   return g_app_path;
 }
+
+Version AppVersion() {
+  return {POKERZEVA_VERSION_MAJOR, POKERZEVA_VERSION_MINOR, POKERZEVA_VERSION_PATCH};
+}
 void SetAppPath(std::string path) {
   g_app_path = std::move(path);
   g_cur_dir = g_app_path;

@@ -1,5 +1,6 @@
-// The program's folder and the working folder, as the old runtime kept them. The working folder
-// is only a text here: the sound player resolves the paths of its commands against it.
+// The program's folder, its version and the working folder, as the old runtime kept them. The
+// working folder is only a text here: the sound player resolves the paths of its commands against
+// it.
 #pragma once
 
 #include <string>
@@ -7,6 +8,13 @@
 namespace vb {
 
 const std::string& AppPath();
+
+// The program's version numbers, from the build's project version.
+struct Version {
+  int Major, Minor, Revision;
+};
+Version AppVersion();
+
 void SetAppPath(std::string path);
 const std::string& CurDir();
 void ChDir(std::string path);

@@ -80,6 +80,16 @@ void Engine::Show(Form& form, bool modal) {
   form.Visible = true;
   if (!modal) return;
   modal_.push_back(&form);
+  // A dialog opens with the focus on its first tab stop, then activates.
+  if (!form.ActiveControl()) {
+    for (Control* c : form.TabStops()) {
+      if (c->CanTakeFocus()) {
+        form.FocusTo(c);
+        break;
+      }
+    }
+  }
+  if (form.Activate) form.Activate();
   while (form.loaded_) DoEvents();
   modal_.erase(std::remove(modal_.begin(), modal_.end(), &form), modal_.end());
 }

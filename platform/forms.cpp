@@ -29,6 +29,7 @@ ToolbarButton::ToolbarButton(Control* toolbar, int index, std::string key)
     : toolbar_(toolbar), index_(index), key_(std::move(key)) {}
 
 void ToolbarButton::SetImage(const std::string& key) {
+  position_ = 0;
   if (key == "0" || key.empty()) {
     image_.clear();
   } else {
@@ -39,9 +40,24 @@ void ToolbarButton::SetImage(const std::string& key) {
   toolbar_->Notify(Prop::ButtonImage, index_);
 }
 
-void ToolbarButton::SetImage(int zero) {
-  if (zero != 0) Raise(err::kElementNotFound);
-  SetImage(std::string());
+void ToolbarButton::SetImage(int position) {
+  if (position == 0) return SetImage(std::string());
+  if (toolbar_->images) toolbar_->images->Item(position);  // faults when it is not there
+  image_.clear();
+  position_ = position;
+  toolbar_->Notify(Prop::ButtonImage, index_);
+}
+
+std::string ToolbarButton::Image() const {
+  if (position_) return std::to_string(position_);
+  return image_.empty() ? "0" : image_;
+}
+
+std::string ToolbarButton::PictureShown() const {
+  const ImageList* store = toolbar_->images;
+  if (!store) return std::string();
+  if (position_) return position_ <= store->Count() ? store->PictureOf(position_) : std::string();
+  return store->HasKey(image_) ? store->PictureOf(image_) : std::string();
 }
 
 void ToolbarButton::SetEnabled(bool on) {

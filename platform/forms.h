@@ -83,19 +83,22 @@ class Property {
   T v_;
 };
 
-// A button of a toolbar. Its image value is a key of the toolbar's image store, or the number 0
-// for no picture: held as text, "" standing for the number 0 (reading gives "0" back then).
+// A button of a toolbar. Its image value is a key of the toolbar's image store, a position in it,
+// or the number 0 for no picture.
 class ToolbarButton {
  public:
   ToolbarButton(Control* toolbar, int index, std::string key);
   int Index() const { return index_; }
   const std::string& Key() const { return key_; }
 
-  // The image value: a key, or "0" for none.
-  std::string Image() const { return image_.empty() ? "0" : image_; }
-  const std::string& ImageKey() const { return image_; }  // "" for none
+  // The image value: a key, a position as text, or "0" for none.
+  std::string Image() const;
+  const std::string& ImageKey() const { return image_; }  // "" for none or a position
+  int ImagePosition() const { return position_; }         // 0 for none or a key
   void SetImage(const std::string& key);                  // a key of the store, or "0"
-  void SetImage(int zero);                                // only 0: no picture
+  void SetImage(int position);                            // a position of the store, or 0
+  // The picture the button shows from its attached store ("" for none).
+  std::string PictureShown() const;
 
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool on);
@@ -109,6 +112,7 @@ class ToolbarButton {
   int index_;
   std::string key_;
   std::string image_;
+  int position_ = 0;
   bool enabled_ = true;
   int value_ = 0;
   std::string tag_;
@@ -281,6 +285,7 @@ class Form : public Control {
   const std::vector<Control*>& timers() const { return timers_; }
 
   std::function<void()> Load;
+  std::function<void()> Activate;  // the form became the active window on being shown
   std::function<void(int& cancel)> Unload;
 
   bool Loaded() const { return loaded_; }

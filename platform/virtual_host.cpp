@@ -49,6 +49,7 @@ bool VirtualHost::ServeDue() {
 
 void VirtualHost::ServeEvents() {
   if (Engine::Get().RunFocusEvents()) return;
+  if (modal_driver && Engine::Get().TopModal() && modal_driver()) return;
   if (!next_wait_.empty()) {
     std::deque<Input> batch;
     batch.swap(next_wait_);

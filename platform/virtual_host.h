@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,10 @@ class VirtualHost : public Host {
   static constexpr std::int64_t kLatest = std::int64_t{1} << 60;  // 36 million years
   bool CanRunFor(std::int64_t ms) const;
   void RunFor(std::int64_t ms);
+
+  // A scripted player at a modal form: while one is up, each wait first asks the driver to act
+  // (one action a call); it returns false when it has nothing to do at that moment.
+  std::function<bool()> modal_driver;
 
   // What happened to queued input the screen refused, and the popups shown.
   std::vector<Input> refused;

@@ -5,12 +5,33 @@
 #include "core/game_state.h"
 #include "core/hand_cycle.h"
 #include "platform/engine.h"
+#include "session/about.h"
+#include "session/dialogs.h"
+#include "session/sel_fundos.h"
+#include "session/trapassa.h"
 #include "table/frm_principal.h"
 
 namespace {
 bool Inverter(vb::Control& entry) {
   entry.Checked = !entry.Checked;
   return entry.Checked;
+}
+
+// Both stacks swept and built again from NroFichas, as a new game has them.
+void RefazerFichas() {
+  MontarFichas(true, true);
+  MesaPingo = 0;
+  FichasPlayer = 0;
+  FichasPoker = 0;
+  MesaApostas = 0;
+  MesaPote = 0;
+  ConstruirPilhas(true);
+  ConstruirPilhas(false);
+  AtualizarLabels();
+}
+
+void Mostrar(vb::Form& dialogo) {
+  vb::Engine::Get().Show(dialogo, true);
 }
 }  // namespace
 
@@ -45,16 +66,86 @@ void MnuNova_Click() {
   f.MnuVerCartas.Enabled = false;
   AjustarTela();
   f.LabelPlayerCaption(0).Caption = MeuNome;
-  MontarFichas(true, true);
-  MesaPingo = 0;
-  FichasPlayer = 0;
-  FichasPoker = 0;
-  MesaApostas = 0;
-  MesaPote = 0;
-  ConstruirPilhas(true);
-  ConstruirPilhas(false);
-  AtualizarLabels();
+  RefazerFichas();
   EncherBaralho();
+}
+
+// A new deck size: the deck is filled again in order, so the next shuffle starts from there.
+void MnuNroCartas_Click() {
+  Mostrar(Frm_NumerodeCartas());
+  EncherBaralho();
+}
+
+// A new number of chips counts at once only while the first hand stands on the table; later it
+// waits for a new game.
+void MnuNroFichas_Click() {
+  Mostrar(Frm_NumerodeFichas());
+  if (NroMao == 2) RefazerFichas();
+}
+
+void MnuTroca_Click() {
+  Mostrar(Frm_QuantasCartas());
+}
+
+// The value of a chip can be changed only while the first hand stands on the table: later, the
+// dialog takes a value and the table goes back to 5.
+void MnuVFicha_Click() {
+  Mostrar(Frm_ValordaFicha());
+  if (NroMao != 2) ValorFicha = 5.0f;
+  AtualizarLabels();
+}
+
+void MnuNome_Click() {
+  Mostrar(Frm_MeuNome());
+  Frm_Principal().LabelPlayerCaption(0).Caption = MeuNome;
+}
+
+// The card back chosen: the last two pictures of the card store, the face-down "FRENTE" and its
+// partner "DORSO", are replaced by the pair of the design, and every card place of both hands shows
+// the new back (the hands are over: the menu opens between them).
+void MnuFundos_Click() {
+  Mostrar(Frm_SelFundos());
+  auto& f = Frm_Principal();
+  vb::ImageList& store = f.ImageListBarajas;
+  for (vb::Control* bar : {&f.ToolbarPlayer, &f.ToolbarPoker, &f.ToolbarBaraja})
+    bar->images = nullptr;
+  store.Remove(store.Count());
+  store.Remove(store.Count());
+  store.Add(f.ImageListFundos.PictureOf(Dorso), "FRENTE");
+  store.Add(f.ImageListFundos.PictureOf(Dorso + 1), "DORSO");
+  for (vb::Control* bar : {&f.ToolbarPlayer, &f.ToolbarPoker, &f.ToolbarBaraja})
+    bar->images = &store;
+  for (int i = 2; i <= 10; i += 2) {
+    f.ToolbarPlayer.Button(i).SetImage("FRENTE");
+    f.ToolbarPoker.Button(i).SetImage("FRENTE");
+  }
+}
+
+// The cheat's door. A right code only offers the two entries, unchecked; a wrong one takes them and
+// any cheat in force away.
+void MnuTrapassa_Click() {
+  Mostrar(Frm_Trapassa());
+  auto& f = Frm_Principal();
+  if (!f.MnuVerBaralho.Visible || !f.MnuVerCartas.Visible) {
+    VerBaralho = false;
+    VerCartas = false;
+    AjustarTela();
+  }
+}
+
+// The deck laid out above the table: the window grows now, the strip fills at the next deal.
+void MnuVerBaralho_Click() {
+  VerBaralho = Inverter(Frm_Principal().MnuVerBaralho);
+  AjustarTela();
+}
+
+// Her cards face up from the next time they are shown.
+void MnuVerCartas_Click() {
+  VerCartas = Inverter(Frm_Principal().MnuVerCartas);
+}
+
+void MnuAbout_Click() {
+  Mostrar(Frm_About());
 }
 
 void MnuLimite_Click() {

@@ -317,11 +317,14 @@ FrmPrincipal::FrmPrincipal() : vb::Form("Frm_Principal") {
         &CmdSair(1), &CmdAcabei(1), &CmdConfrontar, &CmdMaisUma, &CmdSair(2)})
     c->TabIndex = tab++;
 
-  // --- the menu: the two entries of the cheat are offered only to who knows the code
+  // --- the menu: the two entries of the cheat are offered only to who knows the code. There are
+  // --- no saved games, so "Carregar" and "Salvar" are left out
   for (vb::Control* m : {&MnuVerBaralho, &MnuVerCartas}) {
     m->Visible = false;
     m->Enabled = false;
   }
+  MnuCarregar.Visible = false;
+  MnuSalvar.Visible = false;
 
   // --- right click
   MouseDown = Form_MouseDown;

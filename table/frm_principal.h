@@ -25,7 +25,9 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
+#include "platform/engine.h"
 #include "platform/forms.h"
 
 struct FrmPrincipal : vb::Form {
@@ -225,3 +227,16 @@ FrmPrincipal& Frm_Principal();
 // A module that owns another form adds its own destroyer once, when it first creates the form.
 void DestruirFormularios();
 void RegistrarDestruicao(void (*destruir)());
+
+// A form of the game other than the table, created on first use, registered with the form engine
+// and destroyed with the others.
+template <class F>
+F& FormularioDoJogo() {
+  static std::unique_ptr<F> form;
+  if (!form) {
+    form = std::make_unique<F>();
+    vb::Engine::Get().Register(*form);
+    RegistrarDestruicao([] { form.reset(); });
+  }
+  return *form;
+}

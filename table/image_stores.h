@@ -14,6 +14,7 @@ std::string PictureCarta(const std::string& code);  // "barajas/AC"
 std::string PictureFundo(int n);                    // card backs: "fundos/1" .. "fundos/22"
 std::string PictureFace(int n);                     // the opponent's faces: "faces/1" .. "faces/27"
 inline constexpr const char* kPictureBalao = "balao";
+inline constexpr const char* kPictureCreditos = "extras/Creditos";  // the picture of the credits
 
 // Frm_Principal.
 // 54: the 52 cards keyed by code, with their sort tag "1".."52" as text, in deck order (AC first,

@@ -35,11 +35,9 @@ QFont FontOf(const vb::Font& font) {
 
 namespace {
 
-// The picture a toolbar button shows: its key looked up in the attached store, if both exist.
-std::string ButtonPicture(vb::Control& toolbar, const vb::ToolbarButton& button) {
-  if (!toolbar.images || button.ImageKey().empty() || !toolbar.images->HasKey(button.ImageKey()))
-    return std::string();
-  return toolbar.images->PictureOf(button.ImageKey());
+// The picture a toolbar button shows from the attached store, if both exist.
+std::string ButtonPicture(vb::Control& /*toolbar*/, const vb::ToolbarButton& button) {
+  return button.PictureShown();
 }
 
 // The greyed look of a disabled button: light grey shades, the shape kept.
@@ -167,7 +165,7 @@ void ToolbarWidget::Layout() {
     // The odd buttons without key or image are places kept free: under the chip places of a
     // stack strip (so that pile i stands at 600 + 1920 i twips), or the narrow gaps between the
     // cards of a hand (so that the cards stand under their key places).
-    const bool gap = w->index() % 2 == 1 && b.Key().empty() && b.ImageKey().empty();
+    const bool gap = w->index() % 2 == 1 && b.Key().empty() && b.Image() == "0";
     const int width = gap ? (piles ? 40 : (w->index() == 1 ? 2 : 13)) : image.width() + 7;
     w->setGeometry(x, 0, width, image.height() + 7);
     w->setVisible(!gap);

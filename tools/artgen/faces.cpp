@@ -747,6 +747,35 @@ void paintZeva(QPainter& p, const Mood& m) {
   paintMarks(p, m.marks);
 }
 
+// The picture of the credits: ZEVA with her sly look over a fan of cards on the felt.
+void paintCredits(QPainter& p) {
+  const QRectF felt(0.5, 0.5, 111, 147);
+  QLinearGradient green(felt.topLeft(), felt.bottomLeft());
+  green.setColorAt(0, QColor(0x22, 0x80, 0x10));
+  green.setColorAt(1, QColor(0x12, 0x4C, 0x02));
+  p.setPen(QPen(QColor(0xC8, 0xA0, 0x30), 1));
+  p.setBrush(green);
+  p.drawRoundedRect(felt, 6, 6);
+  // Three backs fanned out behind her, one of each of three designs.
+  for (int i = 0; i < 3; ++i) {
+    p.save();
+    p.translate(56, 140);
+    p.rotate(-24 + 24 * i);
+    p.scale(0.62, 0.62);
+    paintCardBack(p, QRectF(-kCardW / 2.0, -kCardH - 20, kCardW, kCardH), 2 * i, false);
+    p.restore();
+  }
+  p.save();
+  p.translate(8, 2);
+  p.scale(3, 3);
+  paintZeva(p, kMoods[19]);
+  p.restore();
+  const QPainterPath name = fitPath(textPath(QStringLiteral("ZEVA"), 20), QRectF(20, 124, 72, 18));
+  p.setPen(QPen(QColor(0x40, 0x20, 0x00), 1.5));
+  p.setBrush(QColor(0xFF, 0xD8, 0x40));
+  p.drawPath(name);
+}
+
 }  // namespace
 
 void addFaces(ArtList& list) {
@@ -755,6 +784,8 @@ void addFaces(ArtList& list) {
     list.push_back({QStringLiteral("faces/%1").arg(i + 1), QStringLiteral("faces (ZEVA's moods)"),
                     32, 32, [mood](QPainter& p) { paintZeva(p, mood); }});
   }
+  list.push_back(
+      {QStringLiteral("extras/Creditos"), QStringLiteral("credits"), 112, 148, paintCredits});
 }
 
 }  // namespace artgen

@@ -2,6 +2,11 @@
 //
 //   pokerzeva-artgen --out assets/images [--sheet contact_sheet.png] [--zoom N]
 //                    [--only PREFIX]
+//   pokerzeva-artgen --check assets/images
+//
+// --check paints every picture and compares it with the files in the folder, pixel by pixel:
+// antialiased edges come out a shade different on another processor, so a channel may differ by
+// a few levels, but no picture may be missing, change its size or change what it shows.
 //
 // Each picture is painted twice from the same vector drawing: at 1x into
 // <name>.png and at 2x into <name>@2x.png. The output is deterministic: no
@@ -16,6 +21,7 @@
 #include <QStringList>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 #include "art.h"
 
@@ -123,9 +129,49 @@ QImage contactSheet(const artgen::ArtList& list, const std::vector<QImage>& imag
   return sheet;
 }
 
+// How far a committed picture may be from a fresh painting: antialiasing shades only.
+constexpr int kShadeTolerance = 4;      // levels of a channel, out of 255
+constexpr double kShadedShare = 0.005;  // share of pixels beyond a difference of one level
+
+// Whether the file holds the painting, within antialiasing; prints why not.
+bool matches(const QImage& painted, const QString& path) {
+  QImage file(path);
+  if (file.isNull()) {
+    std::fprintf(stderr, "%s: missing or unreadable\n", qPrintable(path));
+    return false;
+  }
+  file = file.convertToFormat(QImage::Format_ARGB32);
+  if (file.size() != painted.size()) {
+    std::fprintf(stderr, "%s: %dx%d, painted %dx%d\n", qPrintable(path), file.width(),
+                 file.height(), painted.width(), painted.height());
+    return false;
+  }
+  int worst = 0;
+  long shaded = 0;
+  for (int y = 0; y < file.height(); ++y) {
+    const auto* a = reinterpret_cast<const QRgb*>(file.constScanLine(y));
+    const auto* b = reinterpret_cast<const QRgb*>(painted.constScanLine(y));
+    for (int x = 0; x < file.width(); ++x) {
+      const int d =
+          std::max({std::abs(qRed(a[x]) - qRed(b[x])), std::abs(qGreen(a[x]) - qGreen(b[x])),
+                    std::abs(qBlue(a[x]) - qBlue(b[x])), std::abs(qAlpha(a[x]) - qAlpha(b[x]))});
+      worst = std::max(worst, d);
+      if (d > 1) ++shaded;
+    }
+  }
+  const long pixels = static_cast<long>(file.width()) * file.height();
+  if (worst > kShadeTolerance || shaded > kShadedShare * pixels) {
+    std::fprintf(stderr, "%s: differs (largest %d levels, %ld of %ld pixels)\n", qPrintable(path),
+                 worst, shaded, pixels);
+    return false;
+  }
+  return true;
+}
+
 void usage() {
   std::fprintf(stderr,
-               "usage: pokerzeva-artgen --out DIR [--sheet FILE.png] [--zoom N] [--only PREFIX]\n");
+               "usage: pokerzeva-artgen --out DIR [--sheet FILE.png] [--zoom N] [--only PREFIX]\n"
+               "       pokerzeva-artgen --check DIR\n");
 }
 
 }  // namespace
@@ -138,6 +184,7 @@ int main(int argc, char** argv) {
   QString outDir;
   QString sheetPath;
   QString only;
+  QString checkDir;
   int zoom = 1;
   const QStringList args = app.arguments();
   for (int i = 1; i < args.size(); ++i) {
@@ -149,6 +196,8 @@ int main(int argc, char** argv) {
       sheetPath = args[++i];
     } else if (a == QLatin1String("--zoom") && hasValue) {
       zoom = std::clamp(args[++i].toInt(), 1, 8);
+    } else if (a == QLatin1String("--check") && hasValue) {
+      checkDir = args[++i];
     } else if (a == QLatin1String("--only") && hasValue) {
       only = args[++i];
     } else {
@@ -156,7 +205,7 @@ int main(int argc, char** argv) {
       return 2;
     }
   }
-  if (outDir.isEmpty() && sheetPath.isEmpty()) {
+  if (outDir.isEmpty() && sheetPath.isEmpty() && checkDir.isEmpty()) {
     usage();
     return 2;
   }
@@ -173,6 +222,17 @@ int main(int argc, char** argv) {
   artgen::ArtList list;
   for (auto& art : all) {
     if (only.isEmpty() || art.name.startsWith(only)) list.push_back(std::move(art));
+  }
+
+  if (!checkDir.isEmpty()) {
+    int bad = 0;
+    for (const auto& art : list) {
+      const QString base = checkDir + QLatin1Char('/') + art.name;
+      bad += !matches(render(art, 1), base + QStringLiteral(".png"));
+      bad += !matches(render(art, 2), base + QStringLiteral("@2x.png"));
+    }
+    std::printf("%d pictures checked, %d files differ\n", static_cast<int>(list.size()), bad);
+    if (bad > 0 || sheetPath.isEmpty()) return bad > 0 ? 1 : 0;
   }
 
   std::vector<QImage> ones;

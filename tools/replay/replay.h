@@ -9,6 +9,10 @@
 #include <string>
 #include <vector>
 
+namespace vb {
+class Form;
+}
+
 namespace replay {
 
 struct Options {
@@ -52,6 +56,12 @@ class Session {
 
  private:
   void Run(const std::function<void()>& body, const std::string& last_word);
+  // The lines of the right-click menu and the state line.
+  bool PlayMenu(const std::string& line, int line_number);
+  void EmitState();
+  // The scripted player in a dialog: one step each time the dialog waits; false when none is due.
+  bool DriveDialog();
+  void EmitDialog(const vb::Form& form);
   friend struct Observer;
   Options options_;
   std::ostream* out_;

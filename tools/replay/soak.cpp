@@ -300,6 +300,23 @@ class ChipWatch : public vb::Listener {
     rule_here_ = nullptr;
     const int p = kPlayer, k = kPoker;
     const bool chip = action.rfind("chip ", 0) == 0;
+    if (action == "menu nova" || action.rfind("menu nrofichas ", 0) == 0) {
+      // A new game, or a new number of chips in the first hand: the table is cleared and both
+      // stacks are built again from NroFichas, their totals with them. What the screen owed the
+      // totals goes with the old stacks.
+      if (dc == 0 && dp == 0) return;
+      ChipCause& cause = Rule(chip_rule::kNewStacks);
+      ++cause.times;
+      cause.on_screen += dp;
+      cause.in_totals += dc;
+      owed_.clear();
+      const long long drift = Shown() - Counted();
+      if (drift != 0) {
+        r_.unexplained_chips += drift > 0 ? drift : -drift;
+        owed_.push_back({"unexplained", drift});
+      }
+      return;
+    }
     // --- what the screen gained or lost, by rule
     long long screen = dp;
     long long count = dc;
@@ -455,16 +472,14 @@ std::string OptionsText(const Options& o) {
   return t;
 }
 
-// POKERZEVA_SOAK_KEEP=DIR keeps each game that the report flags as a replay script, with its
-// options in a file beside it: DIR/game-N.script and DIR/game-N.args.
+// POKERZEVA_SOAK_KEEP=DIR keeps each game that the report flags as a replay script, its options
+// on the first line as the replay tests read them: DIR/game-N.script.
 void Keep(int game, const Options& o, const std::vector<std::string>& lines, const char* why) {
   const char* dir = std::getenv("POKERZEVA_SOAK_KEEP");
   if (!dir) return;
-  const std::string base = std::string(dir) + "/game-" + std::to_string(game);
-  std::ofstream script(base + ".script");
-  script << "# " << why << "\n";
+  std::ofstream script(std::string(dir) + "/game-" + std::to_string(game) + ".script");
+  script << "# options: " << OptionsText(o) << "\n# " << why << "\n";
   for (const std::string& line : lines) script << line << "\n";
-  std::ofstream(base + ".args") << OptionsText(o) << "\n";
 }
 
 }  // namespace
@@ -535,9 +550,14 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
         }
         break;
       }
-      // Leaving the game is one choice among many, and rarely taken.
-      std::string a = actions[rng() % actions.size()];
-      if (a == "click CmdSair 2" && rng() % 20 != 0) a = actions.back();
+      // Between hands the menu is one choice in twenty, else a new game from it would keep games
+      // from ending; the menu's lines come first in the list. Leaving the game is rarely taken.
+      std::size_t first = 0;
+      while (first < actions.size() && actions[first].rfind("menu ", 0) == 0) ++first;
+      const bool menu = first == actions.size() || (first > 0 && rng() % 20 == 0);
+      std::string a =
+          menu ? actions[rng() % first] : actions[first + rng() % (actions.size() - first)];
+      if ((a == "click CmdSair 2" || a == "menu sair") && rng() % 20 != 0) a = actions.back();
       last = a;
       last_fase = Fase;
       watch.action = a;

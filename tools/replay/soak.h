@@ -64,6 +64,8 @@ inline constexpr const char* kMintShown = "TrocarFichas minting (shown in the st
 inline constexpr const char* kMintAnte = "TrocarFichas minting at the ante (count only, not shown)";
 inline constexpr const char* kFull =
     "MontarFichas drops what a full stack (30 of each, 1980 chips) cannot hold";
+inline constexpr const char* kNewStacks =
+    "a new game or a new number of chips from the menu builds both stacks again";
 inline constexpr const char* kCap =
     "the opponent's stack loses chips over 1810 (PilhaDeFichas cap)";
 }  // namespace chip_rule

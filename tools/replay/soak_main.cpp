@@ -2,8 +2,8 @@
 // Fase left its table, a game stopped where no rule stops it, or a change of the chips had no rule
 // behind it.
 // POKERZEVA_SOAK_DEBUG=1 prints each unexplained change of the chips with what the screen did;
-// POKERZEVA_SOAK_KEEP=DIR keeps every game so flagged as a replay script (DIR/game-N.script, with
-// its options in DIR/game-N.args).
+// POKERZEVA_SOAK_KEEP=DIR keeps every game so flagged as a replay script, DIR/game-N.script, whose
+// first line gives its options ("# options: --seed ...").
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
