@@ -100,7 +100,7 @@ void EncherImageListtESTE(vb::ImageList& store) {
 }
 
 std::vector<std::string> PicturesDoJogo() {
-  std::vector<std::string> pictures{kPictureBalao};
+  std::vector<std::string> pictures{kPictureBalao, kPictureCreditos};
   const Guardar anotar = [&pictures](std::string picture, std::string, std::string) {
     if (std::find(pictures.begin(), pictures.end(), picture) == pictures.end())
       pictures.push_back(std::move(picture));

@@ -38,6 +38,6 @@ void EncherImageListBarajando(vb::ImageList& store);
 void EncherImageListReves(vb::ImageList& store);
 void EncherImageListtESTE(vb::ImageList& store);
 
-// Every picture that the stores above hold, and the balloon, each once: what must be at hand before
-// the game starts.
+// Every picture that the stores above hold, the balloon and the credits, each once: what must be at
+// hand before the game starts.
 std::vector<std::string> PicturesDoJogo();

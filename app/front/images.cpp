@@ -20,7 +20,7 @@ QPixmap Load(const QString& id, bool dense) {
       return p;
     }
   }
-  return QPixmap(base + QStringLiteral(".png"));
+  return QPixmap(PictureFile(id.toStdString()));
 }
 
 }  // namespace
@@ -46,6 +46,25 @@ QPixmap Picture(const std::string& id, qreal ratio) {
   auto it = g_cache.find(key);
   if (it == g_cache.end()) it = g_cache.insert(key, Load(name, dense));
   return *it;
+}
+
+QString PictureFile(const std::string& id) {
+  return ImageFolder() + QLatin1Char('/') + QString::fromStdString(id) + QStringLiteral(".png");
+}
+
+std::string LoadPictures(const std::vector<std::string>& ids, qreal ratio) {
+  for (const std::string& id : ids) {
+    if (Picture(id, 1.0).isNull()) return id;
+    if (ratio > 1.0) Picture(id, ratio);
+  }
+  return std::string();
+}
+
+QString PictureFaultText(const std::string& id) {
+  return QStringLiteral(
+             "Não foi possível ler uma figura do jogo:\n\n%1\n\nAs figuras são procuradas na "
+             "pasta %2\n\nO arquivo falta ou está danificado. Instale o PokerZEVA de novo.")
+      .arg(QDir::toNativeSeparators(PictureFile(id)), QDir::toNativeSeparators(ImageFolder()));
 }
 
 QSize PictureSize(const std::string& id) {
