@@ -5,7 +5,7 @@
 
 namespace vb {
 
-VirtualHost::VirtualHost() : previous_(nullptr) {
+VirtualHost::VirtualHost() {
   Engine::Get().SetHost(this);
 }
 

@@ -53,7 +53,6 @@ class VirtualHost : public Host {
   std::int64_t now_ = 0;
   std::deque<Input> next_wait_;
   std::vector<Timed> timed_;
-  Host* previous_;
 };
 
 }  // namespace vb

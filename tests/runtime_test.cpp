@@ -99,7 +99,10 @@ TEST(Runtime, MoneyFormat) {
                  {1234567.891, "1,234,567.89"},
                  {-1234.5, "-1,234.50"},
                  {0.25f * 990, "247.50"},
-                 {double(0.125f) * 989, "123.63"}}) {
+                 {double(0.125f) * 989, "123.63"},
+                 // a chip worth 1e300: every digit, grouped, with no cents left to show
+                 {1e20, "100,000,000,000,000,000,000.00"},
+                 {-3e16, "-30,000,000,000,000,000.00"}}) {
     EXPECT_EQ(vb::FormatMoney(c.in), c.out) << c.in;
   }
 }
