@@ -14,8 +14,8 @@ void CmdConfrontar_Click();
 // The opponent's turns and the showdown.
 void VezPokerAbertura();
 void VezPokerFinal();
-// Her answer once the turn has passed the all-committed check: the cases of the final round by
-// the table alone (tests reach the cases that the check keeps play from reaching).
+// Her answer once the turn has passed the all-committed check, by the table alone (tests reach
+// the tables that the check keeps play from reaching).
 void ResponderFinal();
 void ConfrontarJogos();
 
@@ -29,7 +29,6 @@ bool SemMaisApostas();
 void EntrarConfronto();
 void EntrarTroca();
 void MostrarFim(const char* linha1, const char* linha2, const char* linha3 = nullptr);
-void TocarFim(const char* nome);
-void TocarEfeito(const char* nome);
-void RetomarMusica();
+// She gives up and the player takes the whole table; in the final round she tells him what he won.
+void PokerDesiste(bool dizer_o_ganho);
 void PlayerDesiste();

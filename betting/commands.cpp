@@ -178,7 +178,7 @@ void CmdTudo_Click() {
       AtualizarLabels();
       Leyenda(false, "ELEAPOSTATUDO", soma());
     }
-    Esperar(2, 1000);
+    Esperar(kPausaApostouTudo);
     ApostouTudo = true;
     VezPokerAbertura();
   } else {
@@ -193,7 +193,7 @@ void CmdTudo_Click() {
       AtualizarLabels();
       Leyenda(false, "ELEAPOSTATUDO", TotalApostaPlayer);
     }
-    Esperar(2, 1000);
+    Esperar(kPausaApostouTudo);
     ApostouTudo = true;
     VezPokerFinal();
   }

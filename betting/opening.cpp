@@ -5,27 +5,14 @@
 #include "chips/chips.h"
 #include "core/game_state.h"
 #include "core/hand_cycle.h"
+#include "core/speeds.h"
 #include "evaluation/analisis.h"
 #include "opponent/desicion.h"
 #include "opponent/leyendas.h"
-#include "sound/musicas.h"
+#include "sound/trilha.h"
 #include "table/frm_principal.h"
 
 namespace {
-
-// She gives up: the player takes the whole table.
-void PokerDesiste() {
-  Leyenda(true, "EUDESISTI", 0);
-  MesaApostas = 0;
-  MesaPote = 0;
-  MesaPingo = 0;
-  MontarFichas(false, true);
-  AcertarPilhas();
-  TocarFim("WAIT");
-  Esperar(2, 1000);
-  MostrarFim("Põe Ser, Mão Ruim, eueeh!", "Vamos Mais Uma ?");
-  Fase = 50;
-}
 
 void PokerAumenta() {
   MaoPlayer = true;
@@ -33,204 +20,207 @@ void PokerAumenta() {
   const int d = MesaApostas - MesaPote;
   Leyenda(true, "EUAUMENTEIABRE", d);
   Leyenda(false, "CUBRIRAPOSTA", d);
-  Esperar(2, 750);
+  Esperar(kPausaDepoisDaAposta);
 }
 
-// Her stake above 0 in B1 and B2 (and in C3 through B2): a raise hands the turn back, a cover
-// closes the round.
+// Her stake above 0 against his opening (first level) or his raise (second level): a raise hands
+// the turn back, a cover closes the round.
 void CobrirOuAumentar(bool segundo_nivel, int stake) {
   TocarEfeito(segundo_nivel ? "APOSTA" : "ABRE");
   MoverFichas(true, stake, true);
   AcertarPilhas();
   if (MesaApostas > MesaPote && !SemMaisApostas()) {
     PokerAumenta();
-    if (segundo_nivel && EfeitosOn) Musicas("MELODIAS", "APOSTA", "CLOSE");
-    RetomarMusica();
+    if (segundo_nivel) {
+      FecharMelodia("APOSTA");
+    } else {
+      RetomarMusica();
+    }
     PrepararPlayer();
     return;
   }
   // She covers, or cannot go on. The first level names the player's stake, the second her own.
   Leyenda(true, "EUCUBRIABRE", segundo_nivel ? AumentoAberturaPoker : AberturaPlayer);
   FecharPlayer();
-  if (!segundo_nivel) {
-    Esperar(2, 750);
-    RetomarMusica();
+  if (segundo_nivel) {
+    Esperar(kPausaDaMelodia);
+    TocarMelodia("APOSTA");
   } else {
-    Esperar(1, 1000);
-    if (EfeitosOn) {
-      Musicas("MELODIAS", "APOSTA", "PLAY");
-      RetomarMusica();
-    }
+    Esperar(kPausaDepoisDaAposta);
+    RetomarMusica();
   }
   EntrarTroca();
 }
 
-// Case B2 from its first step, also reached from C3.
-void SegundoNivel() {
+// Her second level against his raise; none at all is a surrender.
+void ResponderComSegundoNivel() {
   if (AumentoAberturaPoker == 0) {
-    PokerDesiste();
+    PokerDesiste(false);
   } else {
     CobrirOuAumentar(true, AumentoAberturaPoker);
   }
 }
 
-}  // namespace
-
-void PlayerDesiste() {
-  Leyenda(true, "EUGANHEI", 0);
-  Leyenda(false, "ELEDESISTIU", 0);
-  MesaApostas = 0;
-  MesaPote = 0;
-  MesaPingo = 0;
-  MontarFichas(true, true);
+// She puts her last level down and the round closes, whether it matches his or not.
+void FicarComUltimoNivel() {
+  Leyenda(true, "EUCUBRIABRE", TotalAberturaPoker);
+  MoverFichas(true, TotalAberturaPoker, true);
   AcertarPilhas();
   FecharPlayer();
-  TocarFim("GANHEI");
-  Esperar(2, 1000);
-  MostrarFim("Pode deixar, Eu levo tudo por você, Obrigada!", "Peninha, Garotão...!",
-             "Outra Vez ?");
-  Fase = 50;
+  TocarMelodia("APOSTA");
+  Esperar(kPausaDepoisDaAposta);
+  EntrarTroca();
 }
 
-void VezPokerAbertura() {
-  if (!(Fase >= 10 && Fase < 20)) return;
-  Esperar(2, 750);
-  if (SemMaisApostas()) {
-    FecharPlayer();
-    EntrarTroca();
+// He ended his turn short of her stake.
+void PlayerAbaixoDela() {
+  MaoPlayer = true;
+  MostrarSeta(MaoPlayer);
+  if (MesaPote == 0) {
+    // Nothing at all: the first empty turn is a warning, the second (in any later hand too) a
+    // surrender.
+    PassouSemCobrir = !PassouSemCobrir;
+    Leyenda(true, "EUABRI", MesaApostas);
+    Leyenda(false, "CUBRIRAPOSTA", MesaApostas);
+    PrepararPlayer();
+    if (!PassouSemCobrir) PlayerDesiste();
     return;
   }
+  // Some chips: she moves none; her words repeat what he owes.
+  const int d = MesaApostas - MesaPote;
+  Leyenda(true, "EUAUMENTEIABRE", d);
+  Leyenda(false, "CUBRIRAPOSTA", d);
+  PrepararPlayer();
+}
 
-  if (MesaPote < MesaApostas) {
-    // A: the player ended his turn short of her stake.
-    MaoPlayer = true;
-    MostrarSeta(MaoPlayer);
-    if (MesaPote == 0) {
-      // A1: the first empty turn is a warning, the second (in any later hand too) a surrender.
-      PassouSemCobrir = !PassouSemCobrir;
-      Leyenda(true, "EUABRI", MesaApostas);
-      Leyenda(false, "CUBRIRAPOSTA", MesaApostas);
-      PrepararPlayer();
-      if (!PassouSemCobrir) PlayerDesiste();
-    } else {
-      // A2: she moves no chip; her words repeat what he owes.
-      const int d = MesaApostas - MesaPote;
-      Leyenda(true, "EUAUMENTEIABRE", d);
-      Leyenda(false, "CUBRIRAPOSTA", d);
-      PrepararPlayer();
-    }
+// He opened against her empty side.
+void PlayerAbriu() {
+  Leyenda(false, "ELEABRIU", MesaPote);
+  FecharPlayer();
+  AnalisarJogos();
+  Desicion("CUBRE1");
+  if (AberturaPoker == 0) {
+    PokerDesiste(false);
+  } else {
+    CobrirOuAumentar(false, AberturaPoker);
+  }
+}
+
+// He raised above her stake: she answers with her next level.
+void PlayerAumentou() {
+  Leyenda(false, "ELEAUMENTOUABRE", MesaPote - MesaApostas);
+  FecharPlayer();
+  AnalisarJogos();
+  if (AumentoAberturaPoker == 0) {
+    Desicion("CUBRE2");
+    ResponderComSegundoNivel();
     return;
   }
-
-  if (MesaPote > MesaApostas) {
-    // B: the player opened or raised.
-    MaoPlayer = false;
-    MostrarSeta(MaoPlayer);
-    if (MesaApostas == 0) {
-      Leyenda(false, "ELEABRIU", MesaPote);
-      FecharPlayer();
-      AnalisarJogos();
-      Desicion("CUBRE1");
-      if (AberturaPoker == 0) {
-        PokerDesiste();
-      } else {
-        CobrirOuAumentar(false, AberturaPoker);
-      }
-      return;
-    }
-    Leyenda(false, "ELEAUMENTOUABRE", MesaPote - MesaApostas);
-    FecharPlayer();
-    AnalisarJogos();
-    if (AumentoAberturaPoker == 0) {
-      Desicion("CUBRE2");  // B2
-      SegundoNivel();
-      return;
-    }
+  if (TotalAberturaPoker == 0) {
+    Desicion("CUBRE3");
     if (TotalAberturaPoker == 0) {
-      Desicion("CUBRE3");  // B3
-      if (TotalAberturaPoker == 0) {
-        PokerDesiste();
-        return;
-      }
-    } else {
-      // B4: no question asked. The player's chips less her own, whatever the table holds; it
-      // may be 0 or below, and passes to the table unclamped.
-      TotalAberturaPoker = FichasPlayer - FichasPoker;
+      PokerDesiste(false);
+      return;
     }
-    Leyenda(true, "EUCUBRIABRE", TotalAberturaPoker);
+  } else {
+    // Her third level is spent: no question asked. The player's chips less her own, whatever
+    // the table holds; it may be 0 or below, and passes to the table unclamped.
+    TotalAberturaPoker = FichasPlayer - FichasPoker;
+  }
+  FicarComUltimoNivel();
+}
+
+// Both sides empty: he passed, and she may open or pass too.
+void PlayerPassou() {
+  Leyenda(false, "ELEPASSOU", 0);
+  FecharPlayer();
+  AnalisarJogos();
+  Desicion("CUBRE1");
+  if (AberturaPoker == 0) {
+    // Both passed: no chip moves and the antes wait for the next hand.
+    Leyenda(true, "EUPASSEI", 0);
+    Leyenda(false, "ELEPASSOU", 0);
+    TocarFim("PASSOU");
+    Esperar(kPausaAmbosPassam);
+    MostrarFim("Eueee!, As cartas estão carregadas ou Que?", "Essa Não Valeu!, Ninguém Merece!",
+               "Uma Outra ?");
+    Fase = 50;
+    JogoEmpatado = false;
+    return;
+  }
+  TocarEfeito("ABRE");
+  MoverFichas(true, AberturaPoker, true);
+  AcertarPilhas();
+  MaoPlayer = true;
+  MostrarSeta(MaoPlayer);
+  Leyenda(true, "EUABRI", AberturaPoker);
+  Leyenda(false, "CUBRIRAPOSTA", AberturaPoker);
+  Esperar(kPausaDepoisDaAposta);
+  RetomarMusica();
+  PrepararPlayer();
+}
+
+// He covered her raise with her second level down: she may raise once more with her third.
+void PlayerCobriuSegundoNivel() {
+  // The last call's analysis is used again.
+  Leyenda(false, "ELECUBRIUABRE", AumentoAberturaPlayer);
+  Desicion("CUBRE3");
+  if (TotalAberturaPoker > 0) {
+    Leyenda(true, "EUAUMENTEIABRE", TotalAberturaPoker);
     MoverFichas(true, TotalAberturaPoker, true);
     AcertarPilhas();
-    FecharPlayer();
-    if (EfeitosOn) {
-      Musicas("MELODIAS", "APOSTA", "PLAY");
-      RetomarMusica();
-    }
-    Esperar(2, 750);
-    EntrarTroca();
+    PokerAumenta();  // the same key a second time, with the difference
+    RetomarMusica();
+    PrepararPlayer();
     return;
   }
+  FecharPlayer();
+  TocarMelodia("APOSTA");
+  Esperar(kPausaDepoisDaAposta);
+  EntrarTroca();
+}
 
-  if (MesaPote != MesaApostas) return;
-  // C: the two are level.
-  if (MesaPote == 0) {
-    // C0: the player passed.
-    Leyenda(false, "ELEPASSOU", 0);
-    FecharPlayer();
-    AnalisarJogos();
-    Desicion("CUBRE1");
-    if (AberturaPoker == 0) {
-      // Both passed: no chip moves and the antes wait for the next hand.
-      Leyenda(true, "EUPASSEI", 0);
-      Leyenda(false, "ELEPASSOU", 0);
-      TocarFim("PASSOU");
-      Esperar(3, 1000);
-      MostrarFim("Eueee!, As cartas estão carregadas ou Que?", "Essa Não Valeu!, Ninguém Merece!",
-                 "Uma Outra ?");
-      Fase = 50;
-      JogoEmpatado = false;
-    } else {
-      TocarEfeito("ABRE");
-      MoverFichas(true, AberturaPoker, true);
-      AcertarPilhas();
-      MaoPlayer = true;
-      MostrarSeta(MaoPlayer);
-      Leyenda(true, "EUABRI", AberturaPoker);
-      Leyenda(false, "CUBRIRAPOSTA", AberturaPoker);
-      Esperar(2, 750);
-      RetomarMusica();
-      PrepararPlayer();
-    }
-  } else if (TotalAberturaPoker > 0) {
-    // C1.
+// Level with chips down: he covered her. Her third level down closes the round; below that she
+// gets one more say.
+void PlayerCobriu() {
+  if (TotalAberturaPoker > 0) {
     Leyenda(false, "ELECUBRIUABRE", MesaPote);
     FecharPlayer();
     EntrarTroca();
   } else if (AumentoAberturaPoker > 0) {
-    // C2: the last call's analysis is used again.
-    Leyenda(false, "ELECUBRIUABRE", AumentoAberturaPlayer);
-    Desicion("CUBRE3");
-    if (TotalAberturaPoker > 0) {
-      Leyenda(true, "EUAUMENTEIABRE", TotalAberturaPoker);
-      MoverFichas(true, TotalAberturaPoker, true);
-      AcertarPilhas();
-      PokerAumenta();  // the same key a second time, with the difference
-      RetomarMusica();
-      PrepararPlayer();
-    } else {
-      FecharPlayer();
-      if (EfeitosOn) {
-        Musicas("MELODIAS", "APOSTA", "PLAY");
-        RetomarMusica();
-      }
-      Esperar(2, 750);
-      EntrarTroca();
-    }
+    PlayerCobriuSegundoNivel();
   } else {
-    // C3: level, her raise or her surrender; a 0 here is surrender even where she owes nothing.
+    // Her opening covered: her raise or her surrender; a 0 here is surrender even where she owes
+    // nothing.
     Leyenda(false, "ELECUBRIUABRE", AberturaPoker - AberturaPlayer);
     FecharPlayer();
     AnalisarJogos();
     Desicion("CUBRE2");
-    SegundoNivel();
+    ResponderComSegundoNivel();
+  }
+}
+
+}  // namespace
+
+void VezPokerAbertura() {
+  if (!(Fase >= 10 && Fase < 20)) return;
+  Esperar(kPausaElaPensa);
+  if (SemMaisApostas()) {
+    FecharPlayer();
+    EntrarTroca();
+  } else if (MesaPote < MesaApostas) {
+    PlayerAbaixoDela();
+  } else if (MesaPote > MesaApostas) {
+    MaoPlayer = false;
+    MostrarSeta(MaoPlayer);
+    if (MesaApostas == 0) {
+      PlayerAbriu();
+    } else {
+      PlayerAumentou();
+    }
+  } else if (MesaPote == 0) {
+    PlayerPassou();
+  } else {
+    PlayerCobriu();
   }
 }

@@ -119,7 +119,7 @@ void ConfrontarJogos() {
     if (MusicaOn) Musicas("TRILHAS", vb::LongText(Trilha), "CLOSE");
     Musicas("MELODIAS", melodia, "PLAY");
   }
-  Esperar(4.0f, 1000);
+  Esperar(kPausaConfronto);
   f.FraConfrontarJogos.Visible = false;
   f.FraConfrontarJogos.Enabled = false;
   f.FraPedeCartasPlayer.Visible = false;
@@ -135,7 +135,7 @@ void ConfrontarJogos() {
     // The end of the game: the message stays up a while, then the table closes.
     f.FraMaisUma.Visible = false;
     f.FraMaisUma.Enabled = false;
-    Esperar(7.0f, 750);
+    Esperar(kPausaFimDeJogo);
     vb::Engine::Get().Unload(f);
   }
 }

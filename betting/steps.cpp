@@ -2,10 +2,12 @@
 #include "betting/betting.h"
 #include "chips/chips.h"
 #include "core/game_state.h"
+#include "core/hand_cycle.h"
 #include "evaluation/analisis.h"
+#include "opponent/leyendas.h"
 #include "opponent/troca.h"
 #include "platform/runtime.h"
-#include "sound/musicas.h"
+#include "sound/trilha.h"
 #include "table/frm_principal.h"
 
 void AnalisarJogos() {
@@ -72,20 +74,32 @@ void MostrarFim(const char* linha1, const char* linha2, const char* linha3) {
   f.LabelPokerMensagem.Caption = text;
 }
 
-void TocarFim(const char* nome) {
-  if (!EfeitosOn) return;
-  Frm_Principal().Timer1.Enabled = false;
-  MusicTime = 0;
-  if (MusicaOn) Musicas("TRILHAS", "All", "CLOSE");
-  Musicas("MELODIAS", nome, "PLAY");
+void PokerDesiste(bool dizer_o_ganho) {
+  Leyenda(true, "EUDESISTI", 0);
+  if (dizer_o_ganho) Leyenda(false, "ELEGANHOU", MesaApostas + MesaPote + MesaPingo);
+  MesaApostas = 0;
+  MesaPote = 0;
+  MesaPingo = 0;
+  MontarFichas(false, true);
+  AcertarPilhas();
+  TocarFim("WAIT");
+  Esperar(kPausaDesistencia);
+  MostrarFim("Põe Ser, Mão Ruim, eueeh!", "Vamos Mais Uma ?");
+  Fase = 50;
 }
 
-void TocarEfeito(const char* nome) {
-  if (!EfeitosOn) return;
-  if (MusicaOn) Musicas("TRILHAS", vb::LongText(Trilha), "PAUSE");
-  Musicas("MELODIAS", nome, "PLAY");
-}
-
-void RetomarMusica() {
-  if (EfeitosOn && MusicaOn) Musicas("TRILHAS", vb::LongText(Trilha), "PLAY");
+void PlayerDesiste() {
+  Leyenda(true, "EUGANHEI", 0);
+  Leyenda(false, "ELEDESISTIU", 0);
+  MesaApostas = 0;
+  MesaPote = 0;
+  MesaPingo = 0;
+  MontarFichas(true, true);
+  AcertarPilhas();
+  FecharPlayer();
+  TocarFim("GANHEI");
+  Esperar(kPausaDesistencia);
+  MostrarFim("Pode deixar, Eu levo tudo por você, Obrigada!", "Peninha, Garotão...!",
+             "Outra Vez ?");
+  Fase = 50;
 }

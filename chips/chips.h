@@ -2,6 +2,7 @@
 // toolbar; the stakes on the table, one picture a chip; the centre pot and every figure.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "platform/forms.h"
@@ -33,6 +34,15 @@ int ContagemPilha(const vb::ToolbarButton& button);
 // The pile of `count` chips of a denomination: prefix + the two right characters of "00" and the
 // count. A count outside 0 to 30 names no image, and the write faults.
 std::string ChavePilha(const Denominacao& d, int count);
+
+// A count of chips by denomination: ones, fives, tens, fifties.
+using Contagem = std::array<int, 4>;
+// An amount as chips, split greedily from the fifties down; below zero each count takes the
+// floor, as the runtime's Int does.
+Contagem Repartir(int quantia);
+// Lays the chips of a count on a heap of table pictures from place `desde`, ones first, each
+// with its picture, its value in Tag and its click.
+void PorNaMesa(vb::ControlArray<>& heap, int desde, const Contagem& contagem);
 
 // Stacks.
 void PilhaDeFichas(bool Poker, int Quantidade);

@@ -5,31 +5,27 @@
 #include "sound/musicas.h"
 #include "table/frm_principal.h"
 
-void FichasNaMesa() {
-  // No stack stands behind the centre heap: it is split anew at every call, and every chip of it
-  // clicks again.
+void PorNaMesa(vb::ControlArray<>& heap, int desde, const Contagem& contagem) {
   auto& f = Frm_Principal();
-  const int pot = MesaPingo;
-  int count[4];
-  count[3] = static_cast<int>(vb::Int(pot / 50.0));
-  int rest = pot - count[3] * 50;
-  count[2] = static_cast<int>(vb::Int(rest / 10.0));
-  rest -= count[2] * 10;
-  count[1] = static_cast<int>(vb::Int(rest / 5.0));
-  count[0] = rest - count[1] * 5;
-
-  for (int i = 0; i < f.PictureCoin.Count(); ++i) f.PictureCoin(i).Visible = false;
-  int at = 0;
+  int at = desde;
   for (int i = 0; i < 4; ++i) {
     const Denominacao& d = kDenominacoes[i];
-    for (int k = 0; k < count[i]; ++k) {
-      vb::Control& chip = f.PictureCoin(at++);
+    for (int k = 0; k < contagem[i]; ++k) {
+      vb::Control& chip = heap(at++);
       chip.Picture = f.ImageListExtras.PictureOf(d.ficha);
       chip.Visible = true;
       chip.Tag = vb::LongText(d.valor);
       if (EfeitosOn) Musicas("EFEITOS", d.efeito);
     }
   }
+}
+
+void FichasNaMesa() {
+  // No stack stands behind the centre heap: it is split anew at every call, and every chip of it
+  // clicks again.
+  auto& f = Frm_Principal();
+  for (int i = 0; i < f.PictureCoin.Count(); ++i) f.PictureCoin(i).Visible = false;
+  PorNaMesa(f.PictureCoin, 0, Repartir(MesaPingo));
 }
 
 namespace {

@@ -32,7 +32,200 @@ int Byte(int v) {
   return v;
 }
 
+// A side's stack as counts, read from and written to its coin bar.
+struct Pilha {
+  int ones = 0, fives = 0, tens = 0, fifties = 0;
+  int Valor() const { return 50 * fifties + 10 * tens + 5 * fives + ones; }
+};
+
+Pilha LerPilha(bool Poker) {
+  vb::Control& bar = CoinBar(Poker);
+  return {ContagemPilha(bar.Button(kUm.botao)), ContagemPilha(bar.Button(kCinco.botao)),
+          ContagemPilha(bar.Button(kDez.botao)), ContagemPilha(bar.Button(kCinquenta.botao))};
+}
+
+// No ones: something is broken into ones.
+void TrocarParaUns(Pilha& p) {
+  if (p.ones != 0) return;
+  if (p.fives > 4) {
+    p.fives -= 2, p.ones += 10;
+  } else if (p.tens > 4) {
+    p.tens -= 2, p.fives += 2, p.ones += 10;
+  } else if (p.fifties > 0) {
+    p.fifties = Byte(p.fifties - 1), p.tens += 2, p.fives += 3, p.ones += 15;
+  } else if (p.tens > 0) {
+    p.tens -= 1, p.fives += 1, p.ones += 5;
+  } else if (p.fives > 0) {
+    p.fives -= 1, p.ones += 5;
+  }
+}
+
+// Too many ones. The second loop mints twenty chips a turn until the tens reach five.
+void ReduzirUns(Pilha& p) {
+  while (p.ones > 30) p.ones -= 5, p.fives += 1;
+  while (p.ones > 20) {
+    if (p.fives < 20) {
+      p.fives += 2, p.ones -= 10;
+    } else if (p.tens < 5) {
+      p.tens += 1, p.ones += 10;
+    } else {
+      break;
+    }
+  }
+}
+
+// No fives, then fewer than ten: higher chips are broken into fives.
+void TrocarParaCincos(Pilha& p) {
+  if (p.fives == 0) {
+    if (p.tens > 7) {
+      p.tens -= 5, p.fives += 10;
+    } else if (p.fifties > 2) {
+      p.fifties = Byte(p.fifties - 2), p.tens += 5, p.fives += 10;
+    } else if (p.fifties > 0) {
+      p.fifties = Byte(p.fifties - 1), p.fives += 10;
+    } else {
+      while (p.tens > 0) p.tens -= 1, p.fives += 2;
+    }
+  }
+  if (p.fives < 10) {
+    if (p.fifties > 0) {
+      p.fifties = Byte(p.fifties - 1), p.fives += 10;
+    } else if (p.tens > 7) {
+      p.tens -= 5, p.fives += 10;
+    } else if (p.tens > 5) {
+      p.tens -= 3, p.fives += 6;
+    } else if (p.tens > 3) {
+      p.tens -= 2, p.fives += 4;
+    } else if (p.tens > 0) {
+      p.tens -= 1, p.fives += 2;
+    }
+  }
+}
+
+void ReduzirCincos(Pilha& p) {
+  while (p.fives > 30) p.fives -= 2, p.tens += 1;
+  while (p.fives > 20) {
+    if (p.tens < 10) {
+      p.tens += 5, p.fives -= 10;
+    } else if (p.fifties < 5) {
+      p.fifties = Byte(p.fifties + 1), p.fives -= 10;
+    } else {
+      break;
+    }
+  }
+}
+
+// No tens, then fewer than ten: fifties are broken into tens, each test once.
+void TrocarParaDezenas(Pilha& p) {
+  auto break_fifties_into_tens = [&] {
+    if (p.fifties > 2) {
+      p.fifties = Byte(p.fifties - 2), p.tens += 10;
+    } else if (p.fifties > 0) {
+      p.fifties = Byte(p.fifties - 1), p.tens += 5;
+    }
+  };
+  if (p.tens == 0) break_fifties_into_tens();
+  if (p.tens < 10) break_fifties_into_tens();
+}
+
+void ReduzirDezenas(Pilha& p) {
+  while (p.tens > 30) p.tens -= 5, p.fifties = Byte(p.fifties + 1);
+  while (p.tens > 20 && p.fifties < 5) p.fifties = Byte(p.fifties + 2), p.tens -= 10;
+}
+
+// The table chips of one heap, up to its first hidden picture, come off the table into a count.
+void RecolherMesa(vb::ControlArray<>& heap, int limit, Pilha& p) {
+  for (int i = 0; i < limit; ++i) {
+    vb::Control& chip = heap(i);
+    if (!chip.Visible) break;
+    switch (static_cast<int>(vb::Val(chip.Tag.get()))) {
+      case 1:
+        ++p.ones;
+        break;
+      case 5:
+        ++p.fives;
+        break;
+      case 10:
+        ++p.tens;
+        break;
+      case 50:
+        p.fifties = Byte(p.fifties + 1);
+        break;
+      default:
+        break;
+    }
+    chip.Visible = false;
+  }
+}
+
+// No pile above thirty in the ones, fives and tens.
+void NivelarBaixas(Pilha& p) {
+  while (p.ones > 30) p.ones -= 5, p.fives += 1;
+  while (p.fives > 30) p.fives -= 2, p.tens += 1;
+  while (p.tens > 30) p.tens -= 5, p.fifties = Byte(p.fifties + 1);
+}
+
+// Fifties above thirty are paid out in lower chips by the first row that holds; each row pays
+// exactly 50.
+void PagarCinquentasDemais(Pilha& p) {
+  struct Linha {
+    int max_fives, max_tens, max_ones;  // -1: not tested
+    int plus_ones, plus_fives, plus_tens;
+  };
+  static constexpr Linha kLinhas[] = {
+      {-1, 24, -1, 0, 0, 5},   // tens below 25
+      {19, -1, -1, 0, 10, 0},  // fives below 20
+      {22, 29, -1, 0, 8, 1},  {24, 28, -1, 0, 6, 2},  {25, 28, 25, 5, 5, 2}, {26, 27, -1, 0, 4, 3},
+      {27, 27, 25, 5, 3, 3},  {28, 27, 20, 10, 2, 3}, {28, 26, -1, 0, 2, 4}, {29, 26, 25, 5, 1, 4},
+  };
+  while (p.fifties >= 31) {
+    const Linha* row = nullptr;
+    for (const Linha& l : kLinhas) {
+      if ((l.max_fives < 0 || p.fives <= l.max_fives) && (l.max_tens < 0 || p.tens <= l.max_tens) &&
+          (l.max_ones < 0 || p.ones <= l.max_ones)) {
+        row = &l;
+        break;
+      }
+    }
+    if (!row) {
+      // A side holding 1950 chips or more: no row holds and the old table froze here for good.
+      // Instead the whole value is split anew with at most thirty of each, fifties first. Every
+      // value up to 1980 fits; chips beyond that, which only the minting of TrocarFichas can
+      // make, are dropped from the ones.
+      int value = p.Valor();
+      p.fifties = std::min(30, value / 50), value -= 50 * p.fifties;
+      p.tens = std::min(30, value / 10), value -= 10 * p.tens;
+      p.fives = std::min(30, value / 5), value -= 5 * p.fives;
+      p.ones = std::min(30, value);
+      return;
+    }
+    p.fifties = Byte(p.fifties - 1);
+    p.ones += row->plus_ones, p.fives += row->plus_fives, p.tens += row->plus_tens;
+  }
+}
+
+// Each test once.
+void Suavizar(Pilha& p) {
+  if (p.ones > 20 && p.fives < 15) p.ones -= 10, p.fives += 2;
+  if (p.fives > 20 && p.tens < 10) p.fives -= 8, p.tens += 4;
+  if (p.fifties < 5 && p.tens > 25) p.tens -= 10, p.fifties = Byte(p.fifties + 2);
+  if (p.ones < 10 && p.fives > 10) p.ones += 10, p.fives -= 2;
+  if (p.fives < 10 && p.tens > 10) p.fives += 8, p.tens -= 4;
+  if (p.fifties > 1 && p.tens < 10) p.fifties = Byte(p.fifties - 2), p.tens += 10;
+}
+
 }  // namespace
+
+Contagem Repartir(int quantia) {
+  Contagem c{};
+  c[3] = static_cast<int>(vb::Int(quantia / 50.0));
+  int rest = quantia - c[3] * 50;
+  c[2] = static_cast<int>(vb::Int(rest / 10.0));
+  rest -= c[2] * 10;
+  c[1] = static_cast<int>(vb::Int(rest / 5.0));
+  c[0] = rest - c[1] * 5;
+  return c;
+}
 
 int ContagemPilha(const vb::ToolbarButton& button) {
   const std::string image = button.Image();
@@ -47,20 +240,11 @@ std::string ChavePilha(const Denominacao& d, int count) {
 void PilhaDeFichas(bool Poker, int Quantidade) {
   Quantidade = vb::CInt(Quantidade);  // a 16-bit argument
   Total(Poker) += Quantidade;
-  const bool negative = Quantidade < 0;
-  const int amount = std::abs(Quantidade);
-  int fifties = static_cast<int>(vb::Int(amount / 50.0));
-  int rest = amount - fifties * 50;
-  int tens = static_cast<int>(vb::Int(rest / 10.0));
-  rest -= tens * 10;
-  int fives = static_cast<int>(vb::Int(rest / 5.0));
-  int ones = rest - fives * 5;
-  if (negative) {
-    fifties = -fifties;
-    tens = -tens;
-    fives = -fives;
-    ones = -ones;
+  Contagem c = Repartir(std::abs(Quantidade));
+  if (Quantidade < 0) {
+    for (int& n : c) n = -n;
   }
+  int ones = c[0], fives = c[1], tens = c[2], fifties = c[3];
   vb::Control& bar = CoinBar(Poker);
 
   fifties += ContagemPilha(bar.Button(kCinquenta.botao));
@@ -106,95 +290,23 @@ void PilhaDeFichas(bool Poker, int Quantidade) {
 }
 
 void TrocarFichas(bool Poker, bool Mostrar) {
-  vb::Control& bar = CoinBar(Poker);
-  int ones = ContagemPilha(bar.Button(kUm.botao));
-  int fives = ContagemPilha(bar.Button(kCinco.botao));
-  int tens = ContagemPilha(bar.Button(kDez.botao));
-  int fifties = Byte(ContagemPilha(bar.Button(kCinquenta.botao)));
-
-  // 1. No ones: break something into ones.
-  if (ones == 0) {
-    if (fives > 4) {
-      fives -= 2, ones += 10;
-    } else if (tens > 4) {
-      tens -= 2, fives += 2, ones += 10;
-    } else if (fifties > 0) {
-      fifties = Byte(fifties - 1), tens += 2, fives += 3, ones += 15;
-    } else if (tens > 0) {
-      tens -= 1, fives += 1, ones += 5;
-    } else if (fives > 0) {
-      fives -= 1, ones += 5;
-    }
-  }
-  // 2, 3. Too many ones. The second branch mints twenty chips a turn until the tens reach five.
-  while (ones > 30) ones -= 5, fives += 1;
-  while (ones > 20) {
-    if (fives < 20) {
-      fives += 2, ones -= 10;
-    } else if (tens < 5) {
-      tens += 1, ones += 10;
-    } else {
-      break;
-    }
-  }
-  // 4, 5. Fives.
-  if (fives == 0) {
-    if (tens > 7) {
-      tens -= 5, fives += 10;
-    } else if (fifties > 2) {
-      fifties = Byte(fifties - 2), tens += 5, fives += 10;
-    } else if (fifties > 0) {
-      fifties = Byte(fifties - 1), fives += 10;
-    } else {
-      while (tens > 0) tens -= 1, fives += 2;
-    }
-  }
-  if (fives < 10) {
-    if (fifties > 0) {
-      fifties = Byte(fifties - 1), fives += 10;
-    } else if (tens > 7) {
-      tens -= 5, fives += 10;
-    } else if (tens > 5) {
-      tens -= 3, fives += 6;
-    } else if (tens > 3) {
-      tens -= 2, fives += 4;
-    } else if (tens > 0) {
-      tens -= 1, fives += 2;
-    }
-  }
-  // 6, 7. Too many fives.
-  while (fives > 30) fives -= 2, tens += 1;
-  while (fives > 20) {
-    if (tens < 10) {
-      tens += 5, fives -= 10;
-    } else if (fifties < 5) {
-      fifties = Byte(fifties + 1), fives -= 10;
-    } else {
-      break;
-    }
-  }
-  // 8, 9. Tens.
-  auto break_fifties_into_tens = [&] {
-    if (fifties > 2) {
-      fifties = Byte(fifties - 2), tens += 10;
-    } else if (fifties > 0) {
-      fifties = Byte(fifties - 1), tens += 5;
-    }
-  };
-  if (tens == 0) break_fifties_into_tens();
-  if (tens < 10) break_fifties_into_tens();
-  // 10, 11. Too many tens.
-  while (tens > 30) tens -= 5, fifties = Byte(fifties + 1);
-  while (tens > 20 && fifties < 5) fifties = Byte(fifties + 2), tens -= 10;
-
-  // 12, 13. The new total; without Mostrar the change itself is dropped.
-  Total(Poker) = 50 * fifties + 10 * tens + 5 * fives + ones;
+  Pilha p = LerPilha(Poker);
+  p.fifties = Byte(p.fifties);
+  TrocarParaUns(p);
+  ReduzirUns(p);
+  TrocarParaCincos(p);
+  ReduzirCincos(p);
+  TrocarParaDezenas(p);
+  ReduzirDezenas(p);
+  // The new total; without Mostrar the change itself is dropped.
+  Total(Poker) = p.Valor();
   if (!Mostrar) return;
 
-  // 14. Redraw on the side's own toolbar. A denomination with chips enables the PLAYER's button
-  // of that denomination, whichever side was named.
+  // Redrawn on the side's own toolbar. A denomination with chips enables the PLAYER's button of
+  // that denomination, whichever side was named.
   auto& f = Frm_Principal();
-  const int counts[4] = {ones, fives, tens, fifties};
+  vb::Control& bar = CoinBar(Poker);
+  const int counts[4] = {p.ones, p.fives, p.tens, p.fifties};
   for (int i = 0; i < 4; ++i) {
     const Denominacao& d = kDenominacoes[i];
     WritePile(Poker, d, counts[i]);
@@ -208,95 +320,23 @@ void TrocarFichas(bool Poker, bool Mostrar) {
 
 void MontarFichas(bool Poker, bool Tudo) {
   auto& f = Frm_Principal();
-  int ones = 0, fives = 0, tens = 0, fifties = 0;
+  Pilha p;
+  if (Poker || Tudo) RecolherMesa(f.PicturePokerCoin, 120, p);
+  if (!Poker || Tudo) RecolherMesa(f.PicturePlayerCoin, 120, p);
+  if (Tudo) RecolherMesa(f.PictureCoin, 60, p);
+  const Pilha pilha = LerPilha(Poker);
+  p.ones += pilha.ones;
+  p.fives += pilha.fives;
+  p.tens += pilha.tens;
+  p.fifties = Byte(p.fifties + pilha.fifties);
+  NivelarBaixas(p);
+  PagarCinquentasDemais(p);
+  Suavizar(p);
 
-  // 1. Sweep the table chips, each heap up to its first hidden picture.
-  auto sweep = [&](vb::ControlArray<>& heap, int limit) {
-    for (int i = 0; i < limit; ++i) {
-      vb::Control& chip = heap(i);
-      if (!chip.Visible) break;
-      switch (static_cast<int>(vb::Val(chip.Tag.get()))) {
-        case 1:
-          ++ones;
-          break;
-        case 5:
-          ++fives;
-          break;
-        case 10:
-          ++tens;
-          break;
-        case 50:
-          fifties = Byte(fifties + 1);
-          break;
-        default:
-          break;
-      }
-      chip.Visible = false;
-    }
-  };
-  if (Poker || Tudo) sweep(f.PicturePokerCoin, 120);
-  if (!Poker || Tudo) sweep(f.PicturePlayerCoin, 120);
-  if (Tudo) sweep(f.PictureCoin, 60);
-
-  // 2. The stack's own chips.
+  // Redrawn from the fifties down; for the player each denomination with chips takes the focus
+  // in turn, so it rests on the lowest one he has.
   vb::Control& bar = CoinBar(Poker);
-  ones += ContagemPilha(bar.Button(kUm.botao));
-  fives += ContagemPilha(bar.Button(kCinco.botao));
-  tens += ContagemPilha(bar.Button(kDez.botao));
-  fifties = Byte(fifties + ContagemPilha(bar.Button(kCinquenta.botao)));
-
-  // 3. Even out the low end.
-  while (ones > 30) ones -= 5, fives += 1;
-  while (fives > 30) fives -= 2, tens += 1;
-  while (tens > 30) tens -= 5, fifties = Byte(fifties + 1);
-
-  // 4. Pay out fifties above thirty by the first row that holds; each row pays exactly 50.
-  struct Linha {
-    int max_fives, max_tens, max_ones;  // -1: not tested
-    int plus_ones, plus_fives, plus_tens;
-  };
-  static constexpr Linha kLinhas[] = {
-      {-1, 24, -1, 0, 0, 5},   // tens below 25
-      {19, -1, -1, 0, 10, 0},  // fives below 20
-      {22, 29, -1, 0, 8, 1},  {24, 28, -1, 0, 6, 2},  {25, 28, 25, 5, 5, 2}, {26, 27, -1, 0, 4, 3},
-      {27, 27, 25, 5, 3, 3},  {28, 27, 20, 10, 2, 3}, {28, 26, -1, 0, 2, 4}, {29, 26, 25, 5, 1, 4},
-  };
-  while (fifties >= 31) {
-    const Linha* row = nullptr;
-    for (const Linha& l : kLinhas) {
-      if ((l.max_fives < 0 || fives <= l.max_fives) && (l.max_tens < 0 || tens <= l.max_tens) &&
-          (l.max_ones < 0 || ones <= l.max_ones)) {
-        row = &l;
-        break;
-      }
-    }
-    if (!row) {
-      // A side holding 1950 chips or more: no row holds and the old table froze here for good.
-      // Instead the whole value is split anew with at most thirty of each, fifties first. Every
-      // value up to 1980 fits; chips beyond that, which only the minting of TrocarFichas can
-      // make, are dropped from the ones.
-      int value = 50 * fifties + 10 * tens + 5 * fives + ones;
-      fifties = std::min(30, value / 50), value -= 50 * fifties;
-      tens = std::min(30, value / 10), value -= 10 * tens;
-      fives = std::min(30, value / 5), value -= 5 * fives;
-      ones = std::min(30, value);
-      break;
-    }
-    fifties = Byte(fifties - 1);
-    ones += row->plus_ones, fives += row->plus_fives, tens += row->plus_tens;
-  }
-
-  // 5. Smooth, each test once.
-  if (ones > 20 && fives < 15) ones -= 10, fives += 2;
-  if (fives > 20 && tens < 10) fives -= 8, tens += 4;
-  if (fifties < 5 && tens > 25) tens -= 10, fifties = Byte(fifties + 2);
-  if (ones < 10 && fives > 10) ones += 10, fives -= 2;
-  if (fives < 10 && tens > 10) fives += 8, tens -= 4;
-  if (fifties > 1 && tens < 10) fifties = Byte(fifties - 2), tens += 10;
-
-  // 6. Redraw from the fifties down; for the player each denomination with chips takes the
-  // focus in turn, so it rests on the lowest one he has.
-  const int counts[4] = {ones, fives, tens, fifties};
+  const int counts[4] = {p.ones, p.fives, p.tens, p.fifties};
   for (int i = 3; i >= 0; --i) {
     const Denominacao& d = kDenominacoes[i];
     if (counts[i] > 0) bar.Button(d.botao).SetEnabled(true);
@@ -306,8 +346,6 @@ void MontarFichas(bool Poker, bool Tudo) {
       f.PicFichasPlayer(d.pic).SetFocus();
     }
   }
-
-  // 7, 8.
-  Total(Poker) = 50 * fifties + 10 * tens + 5 * fives + ones;
+  Total(Poker) = p.Valor();
   if (EfeitosOn) Musicas("EFEITOS", "FICHAS");
 }

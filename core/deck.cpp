@@ -9,11 +9,11 @@
 
 #include "core/cards.h"
 #include "core/game_state.h"
+#include "platform/engine.h"
 #include "platform/rnd.h"
 #include "platform/runtime.h"
-#include "platform/engine.h"
 #include "platform/settings.h"
-#include "sound/musicas.h"
+#include "sound/trilha.h"
 #include "table/frm_barajando.h"
 
 namespace {
@@ -35,15 +35,9 @@ constexpr std::uint32_t kPrimeiraSementeBits = 1059454947;
 }  // namespace
 
 void Embaralhar(int Tamanho) {
-  if (EfeitosOn) {
-    if (MusicaOn) Musicas("TRILHAS", vb::LongText(Trilha), "PAUSE");
-    Musicas("MELODIAS", "BARAJANDO", "PLAY");
-  }
+  TocarEfeito("BARAJANDO");
   vb::Engine::Get().Show(Frm_Barajando(), true);  // returns when the animation has unloaded
-  if (EfeitosOn) {
-    Musicas("MELODIAS", "BARAJANDO", "CLOSE");
-    if (MusicaOn) Musicas("TRILHAS", vb::LongText(Trilha), "PLAY");
-  }
+  FecharMelodia("BARAJANDO");
   TrocarFace();
   MisturarBaralho(Tamanho);
 }

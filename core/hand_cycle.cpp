@@ -11,17 +11,9 @@
 #include "platform/engine.h"
 #include "platform/runtime.h"
 #include "sound/musicas.h"
+#include "sound/trilha.h"
 #include "table/cards.h"
 #include "table/frm_principal.h"
-
-namespace {
-
-// Sound around her move: the track pauses under her jingle and plays again after it.
-std::string TrilhaTexto() {
-  return vb::LongText(Trilha);
-}
-
-}  // namespace
 
 // A side's stack built as at the start of a game: empty piles, then NroFichas in change.
 void ConstruirPilhas(bool Poker) {
@@ -66,10 +58,10 @@ void NovaMao() {
   auto& f = Frm_Principal();
   if (EfeitosOn && MusicaOn) {
     Trilha = Trilha + 1 > 3 ? 1 : Trilha + 1;
-    Musicas("TRILHAS", TrilhaTexto(), "PLAY");
+    RetomarMusica();
   }
   MusicTime = 0;
-  f.Timer1.Interval = 100;
+  f.Timer1.Interval = kIntervaloMusica;
   f.Timer1.Enabled = true;
   Leyenda(true, "Clean", 0);
   Leyenda(false, "Clean", 0);
@@ -148,59 +140,50 @@ void IniciarApostas() {
   AnalisarJogo(true);
   AnalisarJogo(false);
 
-  auto pausar = [](const char* melodia) {
-    if (!EfeitosOn) return;
-    if (MusicaOn) Musicas("TRILHAS", TrilhaTexto(), "PAUSE");
-    Musicas("MELODIAS", melodia, "PLAY");
-  };
   if (Fase == 10) {
     Desicion("ABRE");
     if (AberturaPoker > 0) {
       // She opens. Her "ABRE" jingle is never closed.
-      pausar("ABRE");
+      TocarEfeito("ABRE");
       MaoPlayer = true;
       MostrarSeta(MaoPlayer);
       Leyenda(true, "EUABRI", AberturaPoker);
       MoverFichas(true, AberturaPoker, true);
       AtualizarLabels();
       Leyenda(true, "CUBRIRAPOSTA", AberturaPoker);
-      Esperar(2.0f, 750);
-      if (EfeitosOn && MusicaOn) Musicas("TRILHAS", TrilhaTexto(), "PLAY");
+      Esperar(kPausaDepoisDaAposta);
+      RetomarMusica();
     } else {
-      pausar("NOABRE");
+      TocarEfeito("NOABRE");
       MaoPlayer = false;
       MostrarSeta(MaoPlayer);
       Leyenda(true, "EUPASSEI", 0);
       Leyenda(true, "ABRIRJOGO", 0);
-      Esperar(2.0f, 400);
-      if (EfeitosOn) {
-        Musicas("MELODIAS", "NOABRE", "CLOSE");
-        if (MusicaOn) Musicas("TRILHAS", TrilhaTexto(), "PLAY");
-      }
+      Esperar(kPausaElaPassa);
+      FecharMelodia("NOABRE");
     }
     PrepararPlayer();
   } else if (Fase == 30) {
     Desicion("FINAL");
     if (ApostaPoker > 0) {
-      pausar("APOSTA");
+      TocarEfeito("APOSTA");
       MaoPlayer = true;
       MostrarSeta(MaoPlayer);
       Leyenda(true, "EUAPOSTEI", ApostaPoker);
       MoverFichas(true, ApostaPoker, true);
       AtualizarLabels();
       Leyenda(true, "CUBRIRAPOSTA", 0);
-      Esperar(1.0f, 1000);
-      if (EfeitosOn) Musicas("MELODIAS", "APOSTA", "CLOSE");
+      Esperar(kPausaDaMelodia);
+      FecharMelodia("APOSTA");
     } else {
-      pausar("NOABRE");
+      TocarEfeito("NOABRE");
       MaoPlayer = false;
       MostrarSeta(MaoPlayer);
       Leyenda(true, "EUPASSEI", 0);
       Leyenda(true, "FAZERAPOSTA", 0);
-      Esperar(2.0f, 400);
-      if (EfeitosOn) Musicas("MELODIAS", "NOABRE", "CLOSE");
+      Esperar(kPausaElaPassa);
+      FecharMelodia("NOABRE");
     }
-    if (EfeitosOn && MusicaOn) Musicas("TRILHAS", TrilhaTexto(), "PLAY");
     PrepararPlayer();
   }
 }
@@ -306,26 +289,20 @@ void CmdMaisUma_Click() {
 }
 
 void Form_Unload(int& /*Cancel*/) {
-  auto& f = Frm_Principal();
-  if (EfeitosOn) {
-    f.Timer1.Enabled = false;
-    MusicTime = 0;
-    if (MusicaOn) Musicas("TRILHAS", "All", "CLOSE");
-  }
+  PararMusica();
   GuardarSemente();
 }
 
 void Timer1_Timer() {
   // The clock of the background music: the platform tells nothing of a track's end.
-  static constexpr int kTicks[4] = {0, 920, 980, 590};
   MusicTime += 1;
   // A debugging line that stayed on the table.
   Frm_Principal().LblMusicTime.Caption = " PokerZEVA  -  Jogo de Poker (Versão 2) " +
                                          std::string(" MusicTime = ") + vb::LongText(MusicTime) +
                                          "    TRILHA = " + vb::LongText(Trilha) +
                                          "  Jogosessao = " + Fase.Text();
-  if (Trilha >= 1 && Trilha <= 3 && MusicTime > kTicks[Trilha]) {
-    if (EfeitosOn && MusicaOn) Musicas("TRILHAS", TrilhaTexto(), "PLAY");
+  if (Trilha >= 1 && Trilha <= 3 && MusicTime > kTicksDaTrilha[Trilha]) {
+    RetomarMusica();
     MusicTime = 0;
   }
 }

@@ -3,6 +3,8 @@
 // while the screen stays alive.
 #pragma once
 
+#include "core/speeds.h"
+
 void Form_Initialize();
 void ConstruirPilhas(bool Poker);
 void Form_Unload(int& Cancel);
@@ -11,6 +13,10 @@ void CobrarPingo();
 void IniciarApostas();
 void PrepararPlayer();
 void Esperar(float Vezes, int Intervalo);
+// The same with one of the game's named pauses.
+inline void Esperar(const Pausa& pausa) {
+  Esperar(pausa.vezes, pausa.intervalo);
+}
 void TimerEspera_Timer();
 void OcultarMoedas();
 void AjustarTela();

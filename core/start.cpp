@@ -4,16 +4,35 @@
 
 #include "betting/betting.h"
 #include "chips/chips.h"
+#include "core/game_state.h"
 #include "core/hand_cycle.h"
 #include "opponent/leyendas.h"
 #include "opponent/troca.h"
 #include "platform/engine.h"
+#include "platform/mci.h"
+#include "platform/rnd.h"
+#include "platform/settings.h"
 #include "session/menu.h"
 #include "table/cards.h"
 #include "table/frm_principal.h"
 
 void (*g_ajustes_iniciais)() = nullptr;
 void (*g_depois_da_fala)(bool Lado) = nullptr;
+
+void ResetProcess(std::uint64_t seed) {
+  vb::Engine::Get().Reset();
+  DestruirFormularios();
+  ResetGameState();
+  FaseVar::Observe(nullptr);
+  g_ajustes_iniciais = nullptr;
+  g_depois_da_fala = nullptr;
+  g_leyenda_screen = nullptr;
+  vb::ScriptRnd({});
+  vb::SetRndState(seed);
+  vb::InstallSettings(nullptr);
+  vb::InstallMciSink(nullptr);
+  vb::ClearMciSent();
+}
 
 namespace {
 

@@ -214,7 +214,7 @@ Fala FalaDe(bool Lado, const std::string& Chave, int Fichas) {
 
   // The chips text follows any key, also one with no lines at all.
   if (Fichas > 1) {
-    fala.Linha2 += " " + vb::LongText(Fichas) + " Fichas";
+    ((fala.Linha2 += ' ') += vb::LongText(Fichas)) += " Fichas";
   } else if (Fichas == 1) {
     fala.Linha2 += TerminaEm(fala.Linha2, " a") ? " Ficha" : " Uma Ficha";
   }

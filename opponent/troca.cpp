@@ -63,7 +63,7 @@ void TrocarCartasPlayer() {
   for (int i = 1; i <= 5; ++i) {
     vb::ToolbarButton& card = f.ToolbarPlayer.Button(2 * i);
     if (card.Enabled()) continue;
-    Esperar(1.0f, 1000);
+    Esperar(kPausaCartaTrocada);
     CartasTrocaPlayer += 1;
     const int lugar =
         MaoPlayer ? 10 + CartasTrocaPoker + CartasTrocaPlayer : 10 + CartasTrocaPlayer;
@@ -73,10 +73,10 @@ void TrocarCartasPlayer() {
     if (EfeitosOn) Musicas("EFEITOS", "CARTAMESA");
   }
   Leyenda(false, "PEDECARTAS", CartasTrocaPlayer);
-  Esperar(2.0f, 1000);
+  Esperar(kPausaTrocaAnunciada);
   OrdenarCartas(false);
   MostrarCartas(false, true, false, false);
-  Esperar(1.0f, 750);
+  Esperar(kPausaMaoArrumada);
 }
 
 void TrocarCartasPoker() {
@@ -108,7 +108,7 @@ void TrocarCartasPoker() {
   int tomadas = 0;
   for (int i = 1; i <= 5; ++i) {
     vb::ToolbarButton& card = f.ToolbarPoker.Button(2 * i);
-    Esperar(1.0f, 1000);
+    Esperar(kPausaCartaTrocada);
     if (!guarda(i) && tomadas < CartasTrocaPoker) {
       card.SetImage("DORSO");
       card.SetTag("Dorso");
@@ -126,13 +126,13 @@ void TrocarCartasPoker() {
   for (int i = 1; i <= 5; ++i) {
     vb::ToolbarButton& card = f.ToolbarPoker.Button(2 * i);
     if (card.Tag() != "Dorso") continue;
-    Esperar(1.0f, 500);
+    Esperar(kPausaCartaVirada);
     card.SetImage(CartasPoker[i]);
     card.SetTag("Frente");
     if (EfeitosOn) Musicas("EFEITOS", "CARTASHOW");
   }
-  Esperar(1.0f, 750);
+  Esperar(kPausaMaoArrumada);
   OrdenarCartas(true);
   MostrarCartas(true, true, false, false);
-  Esperar(1.0f, 750);
+  Esperar(kPausaMaoArrumada);
 }

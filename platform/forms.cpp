@@ -82,6 +82,13 @@ std::string Control::Id() const {
   return index_ < 0 ? name_ : name_ + "(" + std::to_string(index_) + ")";
 }
 
+std::string Control::AccessibleName() const {
+  return accessible.namer ? accessible.namer(*this) : accessible.name;
+}
+std::string Control::AccessibleName(const ToolbarButton& button) const {
+  return accessible.button_namer ? accessible.button_namer(button) : std::string();
+}
+
 void Control::Move(int left, int top, int width, int height) {
   Left = left;
   Top = top;

@@ -132,6 +132,20 @@ class TabStop {
   int v_ = -1;
 };
 
+// What a screen reader is told of a control. The game names its controls beside them, in the
+// player's words: a fixed name, or a namer that reads it from what the control shows now (a card
+// by its picture); toolbars name their buttons the same way. Layout that means nothing to a
+// player is hidden from readers (a hidden container hands its children to its own container),
+// and a live control is announced whenever its text changes.
+struct Accessibility {
+  std::string name;
+  std::string description;
+  bool hidden = false;
+  bool live = false;
+  std::function<std::string(const Control&)> namer;
+  std::function<std::string(const ToolbarButton&)> button_namer;
+};
+
 struct Font {
   std::string name = "MS Sans Serif";
   double size = 8.25;
@@ -172,6 +186,10 @@ class Control {
   Font font;
   TabStop TabIndex{this};  // a tab stop when >= 0
   int BorderWidth = 1;
+  Accessibility accessible;
+  // The name a reader says now: the namer's, else the fixed name ("" when the game gave none).
+  std::string AccessibleName() const;
+  std::string AccessibleName(const ToolbarButton& button) const;
 
   // The form engine's reach from a control.
   void SetFocus();

@@ -29,6 +29,7 @@ frmAbout::frmAbout() : vb::Form("frmAbout") {
   Frame2.Move(120, 120, 1920, 2580);
   Picture1.Move(120, 180, 1680, 2220);
   Picture1.Picture = kPictureCreditos;
+  Picture1.accessible.name = "ZEVA diante de três cartas viradas";
   Timer1.timer_order = 4;
   Load = [this] { Form_Load(); };
   Timer1.TimerEvent = [this] { Timer1_Timer(); };

@@ -1,5 +1,7 @@
 #include "session/sel_fundos.h"
 
+#include <string>
+
 #include "core/game_state.h"
 #include "platform/runtime.h"
 #include "table/frm_principal.h"
@@ -12,23 +14,30 @@ constexpr int kPorBarra = 5;  // designs on each of the first two toolbars
 
 FrmSelFundos::FrmSelFundos() : vb::Form("FrmSelFundos") {
   Caption = "  Seleccione o Fundo das Cartas, Clickando com o Mouse nele!";
-  Move(0, 0, 9000, 6000);
+  Move(0, 0, 7200, 6300);
   EncherImageListReves(ImageListReves);
   EncherImageListtESTE(ImageListtESTE);
   for (int i = 1; i <= 3; ++i) {
     vb::Control& bar = Add(vb::Kind::Toolbar, "ToolbarCartas", nullptr, i);
-    bar.Move(120, 120 + 1680 * (i - 1), 8640, 1590);
+    bar.Move(120, 120 + 1680 * (i - 1), 6960, 1590);
     bar.images = i == 3 ? &ImageListtESTE : &ImageListReves;
     for (int b = 1; b <= 10; ++b) bar.AddButton();
     ToolbarCartas.Set(i, &bar);
+    // Readers hear each design by its number, and the preview's cards as such.
+    bar.accessible.button_namer = [i](const vb::ToolbarButton& b) {
+      if (b.PictureShown().empty()) return std::string();
+      if (i == 3) return std::string("Prévia do fundo escolhido");
+      return "Fundo " + std::to_string((i - 1) * kPorBarra + b.Index() / 2);
+    };
+    if (i == 3) continue;  // the preview only shows
     bar.ButtonClick = [this, i](vb::ToolbarButton& button) {
       ToolbarCartas_ButtonClick(i, button);
     };
   }
-  Command1.Move(1800, 5220, 2400, 420);
+  Command1.Move(960, 5280, 2400, 420);
   Command1.Caption = "&A p l i c a r";
   Command1.TabIndex = 0;
-  Command2.Move(4800, 5220, 2400, 420);
+  Command2.Move(3840, 5280, 2400, 420);
   Command2.Caption = "D e s f a z e r";
   Command2.TabIndex = 1;
   Activate = [this] { Form_Activate(); };

@@ -22,7 +22,7 @@ void MostrarCartas(bool Lado, bool Mostrar, bool Som, bool Limpar) {
       card.SetImage("DORSO");
       if (Som && EfeitosOn) Musicas("EFEITOS", "CARTAINI");
     }
-    if (Som) Esperar(1.0f, 750);
+    if (Som) Esperar(kPausaCartaDada);
   }
 }
 
@@ -31,7 +31,6 @@ void MostrarCartas(bool Lado, bool Mostrar, bool Som, bool Limpar) {
 // toolbar, so that a deck made smaller since the last hand leaves no stale cards behind.
 void MostrarBaralho(bool Mostrar, bool Limpar) {
   auto& f = Frm_Principal();
-  static constexpr int kPasso = 40;  // milliseconds at each place
   const int lugares = static_cast<int>(f.ToolbarBaraja.Buttons().size());
   if (Limpar) {
     for (int i = 1; i <= lugares; ++i) f.ToolbarBaraja.Button(i).SetImage(0);
@@ -46,7 +45,7 @@ void MostrarBaralho(bool Mostrar, bool Limpar) {
       place.SetImage(Baralho[i]);
       if (EfeitosOn) Musicas("EFEITOS", "CARTAMESA");
     }
-    Esperar(1.0f, kPasso);
+    Esperar(kPausaLugarDoBaralho);
   }
 }
 
@@ -55,6 +54,8 @@ void EscolherCarta(int Index) {
   auto& f = Frm_Principal();
   f.ToolbarPlayer.Button(2 * (Index + 1)).SetValue(1);
   MarcarCarta(2 * (Index + 1));
+  // The press shows for one tick, as a chip place's does.
+  f.TimerKeyPot.Enabled = true;
 }
 }  // namespace
 

@@ -4,11 +4,13 @@
 #include <string>
 
 #include "core/game_state.h"
+#include "core/speeds.h"
 #include "platform/app_path.h"
 #include "platform/engine.h"
 #include "platform/runtime.h"
 #include "table/frm_principal.h"
 #include "table/image_stores.h"
+#include "table/nomes.h"
 
 namespace {
 
@@ -47,13 +49,14 @@ FrmBarajando::FrmBarajando() : vb::Form("FrmBarajando") {
   Timer1.timer_order = 2;
   Load = [this] { Form_Load(); };
   Timer1.TimerEvent = [this] { Timer1_Timer(); };
+  NomearControles(*this);
 }
 
 void FrmBarajando::ComecarPasso() {
   LabelBaralhando.Caption = "B a r a l h a n d o . . .";
   Caption = "  B a r a l h a n d o   a s   " + Espacado(NroCartas) + "   c a r t a s";
   ContaQuadros = 0;
-  Timer1.Interval = 100;
+  Timer1.Interval = kIntervaloBaralhar;
   Timer1.Enabled = true;
 }
 
@@ -71,8 +74,8 @@ void FrmBarajando::Timer1_Timer() {
   Caption = Caption.get() + " .";
   ++ContaQuadros;
   if (ContaQuadros < kQuadrosPorPasso) {
-    // Only the first tick of a pass waits 100 ms.
-    Timer1.Interval = 50;
+    // Only the first tick of a pass waits the longer interval.
+    Timer1.Interval = kIntervaloFimDoPasso;
     return;
   }
   // The end of a pass: the cards go back (the right one ten units further out than it started)

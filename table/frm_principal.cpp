@@ -8,8 +8,10 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/speeds.h"
 #include "platform/engine.h"
 #include "table/image_stores.h"
+#include "table/nomes.h"
 
 namespace {
 
@@ -303,7 +305,7 @@ FrmPrincipal::FrmPrincipal() : vb::Form("Frm_Principal") {
   Timer1.timer_order = 0;
   Timer1.Enabled = true;  // no interval yet: the music clock starts with the first hand
   TimerKeyPot.timer_order = 1;
-  TimerKeyPot.Interval = 100;
+  TimerKeyPot.Interval = kIntervaloTeclaPote;
   TimerKeyPot.Enabled = true;  // fires once after the form starts and switches itself off
   TimerEspera.timer_order = 3;
   TimerEspera.Enabled = false;
@@ -336,6 +338,8 @@ FrmPrincipal::FrmPrincipal() : vb::Form("Frm_Principal") {
   }
   ToolbarPlayerCoins.MouseDown = ToolbarPlayerCoins_MouseDown;
   ToolbarPlayer.MouseDown = ToolbarPlayer_MouseDown;
+
+  NomearControles(*this);
 }
 
 FrmPrincipal& Frm_Principal() {

@@ -11,13 +11,14 @@
 #include "core/cards.h"
 #include "core/deck.h"
 #include "core/game_state.h"
+#include "core/start.h"
 
 namespace {
 
-class AnalisisTest : public ::testing::Test {
+class HandScoring : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
+    ResetProcess();
     NroCartas = 52;
     FullMataCor = false;  // the rules the program starts with
     TrioMataEscada = true;
@@ -38,7 +39,7 @@ std::string Code(int nro_cartas, const std::string& cards) {
   return JogoDaMao(true);
 }
 
-TEST_F(AnalisisTest, ValoresDaMaoTwoDigitsAndSuitInHandOrder) {
+TEST_F(HandScoring, ValoresDaMaoTwoDigitsAndSuitInHandOrder) {
   Put(true, "9P 2C KD AC 9T");
   EXPECT_EQ(ValoresDaMao(true), "14C13D09P09T02C");
   Put(false, "DD QT JP 3C DC");
@@ -46,7 +47,7 @@ TEST_F(AnalisisTest, ValoresDaMaoTwoDigitsAndSuitInHandOrder) {
   EXPECT_EQ(ValoresDaMao(true), "14C13D09P09T02C");
 }
 
-TEST_F(AnalisisTest, JogoDaMaoByClassAndDeckSize) {
+TEST_F(HandScoring, JogoDaMaoByClassAndDeckSize) {
   struct Row {
     int nro;
     const char* cards;
@@ -95,7 +96,7 @@ TEST_F(AnalisisTest, JogoDaMaoByClassAndDeckSize) {
   for (const Row& r : rows) EXPECT_EQ(Code(r.nro, r.cards), r.code) << r.nro << ": " << r.cards;
 }
 
-TEST_F(AnalisisTest, PontosDoJogoTextOfBaseValuesAndSum) {
+TEST_F(HandScoring, PontosDoJogoTextOfBaseValuesAndSum) {
   struct Row {
     const char* jogo;
     const char* valores;
@@ -123,7 +124,7 @@ TEST_F(AnalisisTest, PontosDoJogoTextOfBaseValuesAndSum) {
   for (const Row& r : rows) EXPECT_EQ(PontosDoJogo(r.jogo, r.valores), r.pontos) << r.jogo;
 }
 
-TEST_F(AnalisisTest, HouseRulesOnlySwapTheTwoBases) {
+TEST_F(HandScoring, HouseRulesOnlySwapTheTwoBases) {
   struct Row {
     bool full_mata_cor, trio_mata_escada;
     const char* base_co;
@@ -148,7 +149,7 @@ TEST_F(AnalisisTest, HouseRulesOnlySwapTheTwoBases) {
   }
 }
 
-TEST_F(AnalisisTest, AnalisarJogoFillsEachSideAndScoresBothWithTheOpponentsValues) {
+TEST_F(HandScoring, AnalisarJogoFillsEachSideAndScoresBothWithTheOpponentsValues) {
   Put(true, "AC DD 8P 7T 6C");
   Put(false, "AT AD KC 9D 2T");
 
@@ -194,7 +195,7 @@ int Showdown(const std::string& poker, const std::string& player) {
   return (PontosPoker > PontosPlayer) - (PontosPoker < PontosPlayer);
 }
 
-TEST_F(AnalisisTest, WhatTheScoreMakesOfTheRanking) {
+TEST_F(HandScoring, WhatTheScoreMakesOfTheRanking) {
   struct Row {
     int nro;
     const char* poker;
@@ -225,7 +226,7 @@ TEST_F(AnalisisTest, WhatTheScoreMakesOfTheRanking) {
   }
 }
 
-TEST_F(AnalisisTest, OrderOfClassesUnderEachPairOfHouseRules) {
+TEST_F(HandScoring, OrderOfClassesUnderEachPairOfHouseRules) {
   // One hand of each class; a sorted list must come out strictly descending in score.
   const std::vector<std::pair<std::string, std::string>> hand = {
       {"ER", "9P 8P 7P 6P 5P"}, {"PO", "2C 2D 2P 2T 3C"}, {"CO", "9C 7C 5C 4C 2C"},
@@ -277,7 +278,7 @@ long long C(long long n, long long k) {
   return c;
 }
 
-class EveryHand : public AnalisisTest, public ::testing::WithParamInterface<int> {};
+class EveryHand : public HandScoring, public ::testing::WithParamInterface<int> {};
 
 TEST_P(EveryHand, ClassCountsMatchTheCombinatorics) {
   const int nro = GetParam();

@@ -15,14 +15,9 @@
 #include "opponent/leyendas.h"
 #include "platform/mci.h"
 #include "platform/rnd.h"
+#include "support.h"
 
-// Draws: a mood m of her mind, a value x of a band a..b, and the first line of a drawn key.
-inline float Humor(int m) {
-  return (m + 0.5f) / 9;
-}
-inline float Faixa(int a, int b, int x) {
-  return (x - a + 0.5f) / (b - a + 1);
-}
+// The draw that picks the first line of a drawn key.
 inline constexpr float kLinha = 0.01f;
 
 // One speech as the balloon showed it, with the table at that moment.
@@ -51,15 +46,15 @@ struct Chave {
 // an earlier hand, or staked at phase 13), the centre pot, the piles (ones, fives, tens, fifties).
 struct Lance {
   int fase = 10;
-  int ab = 0, au = 0, tot = 0;        // the player's three opening levels
-  int ab_p = 0, au_p = 0, tot_p = 0;  // hers
-  int aposta = 0, tot_aposta = 0;     // the player's final-round levels
-  int aposta_p = 0, tot_aposta_p = 0;
-  int extra = 0, extra_p = 0;  // may be negative: a level that moved no chip
+  int abertura_player = 0, aumento_player = 0, total_player = 0;  // the three opening levels
+  int abertura_poker = 0, aumento_poker = 0, total_poker = 0;
+  int aposta_player = 0, total_aposta_player = 0;  // the two final-round levels
+  int aposta_poker = 0, total_aposta_poker = 0;
+  int extra_player = 0, extra_poker = 0;  // may be negative: a level that moved no chip
   int pingo = 2;
   bool mao = false;  // MaoPlayer: she holds the hand
-  int pilha[4] = {10, 10, 10, 10};
-  int pilha_p[4] = {10, 10, 10, 10};
+  int pilha_player[4] = {10, 10, 10, 10};
+  int pilha_poker[4] = {10, 10, 10, 10};
 };
 
 // Two five-card hands, each sorted highest first: "KC KD 9P 5T 2C".
@@ -90,9 +85,9 @@ inline Sons Vezes(int n, const std::string& som) {
 }
 // The clicks of a stake laid by MoverFichas from a full stack: lowest chips first.
 inline Sons Cliques(int n) {
-  const int cinquenta = n / 50, dez = n % 50 / 10, cinco = n % 10 / 5, um = n % 5;
-  return Junta({Vezes(um, Efeito("FICHAS_1")), Vezes(cinco, Efeito("FICHAS_5")),
-                Vezes(dez, Efeito("FICHAS_10")), Vezes(cinquenta, Efeito("FICHAS_50"))});
+  const Contagem c = Repartir(n);
+  return Junta({Vezes(c[0], Efeito("FICHAS_1")), Vezes(c[1], Efeito("FICHAS_5")),
+                Vezes(c[2], Efeito("FICHAS_10")), Vezes(c[3], Efeito("FICHAS_50"))});
 }
 // MontarFichas sweeping chips into a stack.
 inline Sons Chocalho() {
@@ -106,14 +101,10 @@ class BettingTest : public GameTest {
     Corte() = {};
     Roteiro().clear();
     Falas().clear();
+  }
+  void Watch() override {
     g_depois_da_fala = Ouvir;
     FaseVar::Observe(FaseMudou);
-  }
-  void TearDown() override {
-    g_depois_da_fala = nullptr;
-    g_ajustes_iniciais = nullptr;
-    FaseVar::Observe(nullptr);
-    GameTest::TearDown();
   }
 
   // What the round leaves before it hands the table to the exchange: the first move of the phase
@@ -254,18 +245,22 @@ class BettingTest : public GameTest {
   void Montar(const Lance& l, const char* dela = kFracaDela, const char* dele = kFracaDele) {
     if (!F().Loaded()) IniciarJogo();
     Fase = l.fase;
-    AberturaPlayer = l.ab, AumentoAberturaPlayer = l.au, TotalAberturaPlayer = l.tot;
-    AberturaPoker = l.ab_p, AumentoAberturaPoker = l.au_p, TotalAberturaPoker = l.tot_p;
-    ApostaPlayer = l.aposta, TotalApostaPlayer = l.tot_aposta;
-    ApostaPoker = l.aposta_p, TotalApostaPoker = l.tot_aposta_p;
-    MesaPote = l.ab + l.au + l.tot + l.aposta + l.tot_aposta + l.extra;
-    MesaApostas = l.ab_p + l.au_p + l.tot_p + l.aposta_p + l.tot_aposta_p + l.extra_p;
+    AberturaPlayer = l.abertura_player, AumentoAberturaPlayer = l.aumento_player,
+    TotalAberturaPlayer = l.total_player;
+    AberturaPoker = l.abertura_poker, AumentoAberturaPoker = l.aumento_poker,
+    TotalAberturaPoker = l.total_poker;
+    ApostaPlayer = l.aposta_player, TotalApostaPlayer = l.total_aposta_player;
+    ApostaPoker = l.aposta_poker, TotalApostaPoker = l.total_aposta_poker;
+    MesaPote = l.abertura_player + l.aumento_player + l.total_player + l.aposta_player +
+               l.total_aposta_player + l.extra_player;
+    MesaApostas = l.abertura_poker + l.aumento_poker + l.total_poker + l.aposta_poker +
+                  l.total_aposta_poker + l.extra_poker;
     MesaPingo = l.pingo;
     Deitar(false, MesaPote);
     Deitar(true, MesaApostas);
     FichasNaMesa();
-    Pilha(false, l.pilha);
-    Pilha(true, l.pilha_p);
+    Pilha(false, l.pilha_player);
+    Pilha(true, l.pilha_poker);
     MaoPlayer = l.mao;
     Maos(dela, dele);
     AtualizarLabels();

@@ -10,6 +10,7 @@
 
 #include "game_fixture.h"
 #include "platform/runtime.h"
+#include "support.h"
 
 namespace {
 
@@ -25,15 +26,6 @@ void PrintTo(const Pilha& p, std::ostream* os) {
 }
 
 constexpr const char* kPrefixos[4] = {"F01_", "F05_", "F10_", "F50_"};
-
-int ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const vb::RuntimeError& e) {
-    return e.number();
-  }
-  return 0;
-}
 
 std::string Mci(const std::string& pasta, const std::string& chave) {
   return "Play MUSICAS\\" + pasta + "\\" + chave + ".WAV";
@@ -137,9 +129,9 @@ TEST_F(Chips, PilhaDeFichasCapsEachSideItsOwnWay) {
 
 TEST_F(Chips, PilhaDeFichasFaultsOnTheImagesThatDoNotExist) {
   Montar(false, {30, 0, 0, 0});  // the player's ones have no cap
-  EXPECT_EQ(ErrorOf([] { PilhaDeFichas(false, 4); }), vb::err::kElementNotFound);
+  EXPECT_FAULT(PilhaDeFichas(false, 4), vb::err::kElementNotFound);
   Montar(false, {0, 3, 0, 0});  // a negative amount is not checked against the stack
-  EXPECT_EQ(ErrorOf([] { PilhaDeFichas(false, -1); }), vb::err::kElementNotFound);
+  EXPECT_FAULT(PilhaDeFichas(false, -1), vb::err::kElementNotFound);
 }
 
 // --- TrocarFichas -------------------------------------------------------------------------------
@@ -171,7 +163,7 @@ TEST_F(Chips, TrocarFichasMakesChange) {
 TEST_F(Chips, TrocarFichasMintsOnesUntilTheTensReachFiveAndTheRedrawFaults) {
   for (bool poker : {true, false}) {
     Montar(poker, {25, 22, 3, 0});  // 165 chips
-    EXPECT_EQ(ErrorOf([&] { TrocarFichas(poker, true); }), vb::err::kElementNotFound);
+    EXPECT_FAULT(TrocarFichas(poker, true), vb::err::kElementNotFound);
     EXPECT_EQ(poker ? FichasPoker : FichasPlayer, 205);  // forty minted, the 45 ones name no image
   }
 }
@@ -239,7 +231,7 @@ TEST_F(Chips, MoverFichasShortOfOnesChangesUpwardWithoutBalancing) {
   // With no chip at all behind the total the change names a fifty that is not there.
   Montar(false, {0, 0, 0, 0});
   FichasPlayer = 10;
-  EXPECT_EQ(ErrorOf([] { MoverFichas(false, 1, false); }), vb::err::kElementNotFound);
+  EXPECT_FAULT(MoverFichas(false, 1, false), vb::err::kElementNotFound);
 }
 
 TEST_F(Chips, MoverFichasSplitsANegativeAmountByTheFloor) {
@@ -313,7 +305,7 @@ TEST_F(Chips, MoverFichasCapsAtTheTotalAndPlacesBehindOrAfresh) {
   // A full table area has no place for one more chip.
   Montar(true, {1, 0, 0, 0});
   Mostrar(F().PicturePokerCoin, std::vector<int>(120, 1));
-  EXPECT_EQ(ErrorOf([] { MoverFichas(true, 1, true); }), vb::err::kArrayElement);
+  EXPECT_FAULT(MoverFichas(true, 1, true), vb::err::kArrayElement);
 }
 
 // --- MontarFichas -------------------------------------------------------------------------------

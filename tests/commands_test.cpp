@@ -10,7 +10,7 @@
 
 namespace {
 
-class Comandos : public BettingTest {
+class PlayerCommands : public BettingTest {
  protected:
   // The player's first speech since the records started, or an empty one.
   Falado PrimeiraDele() {
@@ -38,34 +38,34 @@ struct Pago {
 };
 
 // Opening round: the first row that holds covers her, then she always draws first.
-TEST_F(Comandos, CmdPagoCoversHerLevelByLevelInTheOpening) {
+TEST_F(PlayerCommands, CmdPagoCoversHerLevelByLevelInTheOpening) {
   // clang-format off
   const std::vector<Pago> linhas = {
-      {"his first level empty", {.ab_p = 30}, {30, 0, 0, 0, 0}, 30, 30, 630, 30},
+      {"his first level empty", {.abertura_poker = 30}, {30, 0, 0, 0, 0}, 30, 30, 630, 30},
       // The one move that does not add to the table: chips carried from an earlier hand leave
       // the table, though MesaPote still counts them.
-      {"his first level empty, chips carried", {.ab_p = 30, .extra = 20},
+      {"his first level empty, chips carried", {.abertura_poker = 30, .extra_player = 20},
        {30, 0, 0, 0, 0}, 50, 30, 630, 30},
       {"his third level short",
-       {.fase = 12, .ab = 30, .au = 20, .ab_p = 30, .au_p = 20, .tot_p = 40},
+       {.fase = 12, .abertura_player = 30, .aumento_player = 20, .abertura_poker = 30, .aumento_poker = 20, .total_poker = 40},
        {30, 20, 40, 0, 0}, 90, 90, 620, 40},
       {"his third level over",
-       {.fase = 13, .ab = 30, .au = 20, .tot = 60, .ab_p = 30, .au_p = 20, .tot_p = 40},
+       {.fase = 13, .abertura_player = 30, .aumento_player = 20, .total_player = 60, .abertura_poker = 30, .aumento_poker = 20, .total_poker = 40},
        {30, 20, 40, 0, 0}, 90, 90, 680, 40},
-      {"his second level short", {.fase = 11, .ab = 30, .au = 20, .ab_p = 30, .au_p = 50},
+      {"his second level short", {.fase = 11, .abertura_player = 30, .aumento_player = 20, .abertura_poker = 30, .aumento_poker = 50},
        {30, 50, 0, 0, 0}, 80, 80, 630, 50},
-      {"his second level over", {.fase = 12, .ab = 30, .au = 50, .ab_p = 30, .au_p = 20},
+      {"his second level over", {.fase = 12, .abertura_player = 30, .aumento_player = 50, .abertura_poker = 30, .aumento_poker = 20},
        {30, 20, 0, 0, 0}, 50, 50, 690, 20},
-      {"his first level short", {.ab = 30, .ab_p = 50}, {50, 0, 0, 0, 0}, 50, 50, 640, 50},
-      {"his first level over", {.fase = 11, .ab = 50, .ab_p = 30},
+      {"his first level short", {.abertura_player = 30, .abertura_poker = 50}, {50, 0, 0, 0, 0}, 50, 50, 640, 50},
+      {"his first level over", {.fase = 11, .abertura_player = 50, .abertura_poker = 30},
        {30, 0, 0, 0, 0}, 30, 30, 680, 30},
       // The repair lays the levels again: the chips carried from an earlier hand go home.
-      {"his first level over, chips carried", {.fase = 11, .ab = 50, .ab_p = 30, .extra = 20},
+      {"his first level over, chips carried", {.fase = 11, .abertura_player = 50, .abertura_poker = 30, .extra_player = 20},
        {30, 0, 0, 0, 0}, 30, 30, 700, 30},
-      {"every level equal, chips carried", {.fase = 11, .ab = 30, .ab_p = 30, .extra = 20},
+      {"every level equal, chips carried", {.fase = 11, .abertura_player = 30, .abertura_poker = 30, .extra_player = 20},
        {30, 0, 0, 0, 0}, 50, 50, 660, -1},
       // 20 chips against 50: all of them move, the stake and the words say 50.
-      {"fewer chips than owed", {.ab_p = 50, .pilha = {0, 0, 2, 0}},
+      {"fewer chips than owed", {.abertura_poker = 50, .pilha_player = {0, 0, 2, 0}},
        {50, 0, 0, 0, 0}, 20, 20, 0, 50},
   };
   // clang-format on
@@ -90,28 +90,28 @@ TEST_F(Comandos, CmdPagoCoversHerLevelByLevelInTheOpening) {
 }
 
 // Final round: the same shape, and the repairs lay the opening levels again too.
-TEST_F(Comandos, CmdPagoCoversHerLevelByLevelInTheFinalRound) {
+TEST_F(PlayerCommands, CmdPagoCoversHerLevelByLevelInTheFinalRound) {
   // clang-format off
   const std::vector<Pago> linhas = {
       // The stake is set from the table first, then that amount moves.
-      {"his first stake empty", {.fase = 30, .ab = 30, .ab_p = 30, .aposta_p = 50},
+      {"his first stake empty", {.fase = 30, .abertura_player = 30, .abertura_poker = 30, .aposta_poker = 50},
        {30, 0, 0, 50, 0}, 80, 80, 610, 50},
       {"his first stake empty, her chips carried",
-       {.fase = 30, .ab = 30, .ab_p = 30, .aposta_p = 50, .extra_p = 10},
+       {.fase = 30, .abertura_player = 30, .abertura_poker = 30, .aposta_poker = 50, .extra_poker = 10},
        {30, 0, 0, 60, 0}, 90, 90, 600, 60},
       {"his second stake short",
-       {.fase = 31, .ab = 30, .ab_p = 30, .aposta = 50, .aposta_p = 50, .tot_aposta_p = 40},
+       {.fase = 31, .abertura_player = 30, .abertura_poker = 30, .aposta_player = 50, .aposta_poker = 50, .total_aposta_poker = 40},
        {30, 0, 0, 50, 40}, 120, 120, 620, 40},
       {"his second stake over",
-       {.fase = 31, .ab = 30, .ab_p = 30, .aposta = 50, .tot_aposta = 70, .aposta_p = 50,
-        .tot_aposta_p = 40},
+       {.fase = 31, .abertura_player = 30, .abertura_poker = 30, .aposta_player = 50, .total_aposta_player = 70, .aposta_poker = 50,
+        .total_aposta_poker = 40},
        {30, 0, 0, 50, 40}, 120, 120, 690, 40},
-      {"his first stake short", {.fase = 31, .ab = 30, .ab_p = 30, .aposta = 20, .aposta_p = 50},
+      {"his first stake short", {.fase = 31, .abertura_player = 30, .abertura_poker = 30, .aposta_player = 20, .aposta_poker = 50},
        {30, 0, 0, 50, 0}, 80, 80, 630, 50},
-      {"his first stake over", {.fase = 31, .ab = 30, .ab_p = 30, .aposta = 70, .aposta_p = 50},
+      {"his first stake over", {.fase = 31, .abertura_player = 30, .abertura_poker = 30, .aposta_player = 70, .aposta_poker = 50},
        {30, 0, 0, 50, 0}, 80, 80, 680, 50},
       {"every stake equal, chips carried",
-       {.fase = 31, .ab = 30, .ab_p = 30, .aposta = 50, .aposta_p = 50, .extra = 10},
+       {.fase = 31, .abertura_player = 30, .abertura_poker = 30, .aposta_player = 50, .aposta_poker = 50, .extra_player = 10},
        {30, 0, 0, 50, 0}, 90, 90, 660, -1},
   };
   // clang-format on
@@ -137,11 +137,11 @@ TEST_F(Comandos, CmdPagoCoversHerLevelByLevelInTheFinalRound) {
   }
 }
 
-TEST_F(Comandos, CmdPagoWithNothingToCoverDoesNothing) {
+TEST_F(PlayerCommands, CmdPagoWithNothingToCoverDoesNothing) {
   const Lance linhas[] = {
-      {.ab = 30},                            // she has not opened
-      {.ab = 30, .ab_p = 20, .extra = -10},  // the table is level
-      {.fase = 20, .ab = 30, .ab_p = 50},    // not a betting phase
+      {.abertura_player = 30},                                             // she has not opened
+      {.abertura_player = 30, .abertura_poker = 20, .extra_player = -10},  // the table is level
+      {.fase = 20, .abertura_player = 30, .abertura_poker = 50},           // not a betting phase
   };
   for (const Lance& l : linhas) {
     Fresh();
@@ -150,7 +150,7 @@ TEST_F(Comandos, CmdPagoWithNothingToCoverDoesNothing) {
     Gravar();
     Click("CmdPago");
     EXPECT_EQ(static_cast<int>(Fase), l.fase);
-    EXPECT_EQ(MesaPote, l.ab + l.extra);
+    EXPECT_EQ(MesaPote, l.abertura_player + l.extra_player);
     EXPECT_TRUE(F().FraApostaPlayer.Visible);
     EXPECT_TRUE(Falas().empty());
   }
@@ -166,35 +166,35 @@ struct Tudo {
 };
 
 // All in: the limit aims the opening at LimiteFichas (150), without it at his chips in hand.
-TEST_F(Comandos, CmdTudoStakesWhatTheRulesAllow) {
+TEST_F(PlayerCommands, CmdTudoStakesWhatTheRulesAllow) {
   // clang-format off
   const std::vector<Tudo> linhas = {
       {"limit, nothing staked", true, {}, {150, 0, 0, 0, 0}, 150, 150},
-      {"limit, 40 staked", true, {.ab = 40}, {150, 0, 0, 0, 0}, 110, 150},
+      {"limit, 40 staked", true, {.abertura_player = 40}, {150, 0, 0, 0, 0}, 110, 150},
       // A short stack under the limit: no chip moves, the stake says all 40 did.
-      {"limit, 40 chips", true, {.pilha = {0, 0, 4, 0}}, {40, 0, 0, 0, 0}, 0, 40},
-      {"limit, second level", true, {.fase = 11, .ab = 30}, {30, 120, 0, 0, 0}, 120, 150},
+      {"limit, 40 chips", true, {.pilha_player = {0, 0, 4, 0}}, {40, 0, 0, 0, 0}, 0, 40},
+      {"limit, second level", true, {.fase = 11, .abertura_player = 30}, {30, 120, 0, 0, 0}, 120, 150},
       // 100 + 80 is above 150: the trim takes the second level back to 50.
-      {"limit, second level trimmed", true, {.fase = 11, .ab = 100, .pilha = {0, 0, 8, 0}},
+      {"limit, second level trimmed", true, {.fase = 11, .abertura_player = 100, .pilha_player = {0, 0, 8, 0}},
        {100, 50, 0, 0, 0}, 0, 150},
       // The chips already staked count against those in hand: 10 stay in the stack.
-      {"no limit, 10 staked, 90 in hand", false, {.ab = 10, .pilha = {0, 0, 9, 0}},
+      {"no limit, 10 staked, 90 in hand", false, {.abertura_player = 10, .pilha_player = {0, 0, 9, 0}},
        {90, 0, 0, 0, 0}, 80, 90},
       // 100 staked, 50 in hand: Quantia is -50, and 50 come off the table into the stack.
-      {"no limit, 100 staked, 50 in hand", false, {.ab = 100, .pilha = {0, 0, 5, 0}},
+      {"no limit, 100 staked, 50 in hand", false, {.abertura_player = 100, .pilha_player = {0, 0, 5, 0}},
        {50, 0, 0, 0, 0}, -50, 50},
-      {"no limit, she has no chips", false, {.ab_p = 100, .pilha_p = {0, 0, 0, 0}},
+      {"no limit, she has no chips", false, {.abertura_poker = 100, .pilha_poker = {0, 0, 0, 0}},
        {100, 0, 0, 0, 0}, 100, 100},
       {"no limit, she has no chips, he barely more", false,
-       {.ab_p = 100, .pilha = {0, 0, 11, 0}, .pilha_p = {0, 0, 0, 0}},
+       {.abertura_poker = 100, .pilha_player = {0, 0, 11, 0}, .pilha_poker = {0, 0, 0, 0}},
        {110, 0, 0, 0, 0}, 110, 110},
-      {"no limit, third level", false, {.fase = 12, .ab = 30, .au = 20, .pilha = {0, 0, 20, 0}},
+      {"no limit, third level", false, {.fase = 12, .abertura_player = 30, .aumento_player = 20, .pilha_player = {0, 0, 20, 0}},
        {30, 20, 150, 0, 0}, 150, 200},
-      {"no limit, phase 13 under the target", false, {.fase = 13, .ab = 30, .au = 20, .tot = 10},
+      {"no limit, phase 13 under the target", false, {.fase = 13, .abertura_player = 30, .aumento_player = 20, .total_player = 10},
        {30, 20, 10, 0, 0}, 0, -1},
-      {"final round, first stake", false, {.fase = 30, .pilha = {0, 0, 10, 0}},
+      {"final round, first stake", false, {.fase = 30, .pilha_player = {0, 0, 10, 0}},
        {0, 0, 0, 100, 0}, 100, 100},
-      {"final round, second stake", false, {.fase = 31, .aposta = 20, .pilha = {0, 0, 10, 0}},
+      {"final round, second stake", false, {.fase = 31, .aposta_player = 20, .pilha_player = {0, 0, 10, 0}},
        {0, 0, 0, 20, 100}, 100, 100},
   };
   // clang-format on
@@ -220,8 +220,8 @@ TEST_F(Comandos, CmdTudoStakesWhatTheRulesAllow) {
   }
 }
 
-TEST_F(Comandos, CmdTudoAboveTheLimitIsRefused) {
-  Montar({.ab_p = 200});
+TEST_F(PlayerCommands, CmdTudoAboveTheLimitIsRefused) {
+  Montar({.abertura_poker = 200});
   const std::int64_t antes = host->Now();
   Gravar();
   ASSERT_TRUE(Click("CmdTudo"));
@@ -234,13 +234,18 @@ TEST_F(Comandos, CmdTudoAboveTheLimitIsRefused) {
 
 // At phase 13 no level can be trimmed: with the levels above the target the program stops
 // responding, and only its window's close box answers.
-TEST_F(Comandos, CmdTudoAtPhase13AboveTheTargetHangs) {
+TEST_F(PlayerCommands, CmdTudoAtPhase13AboveTheTargetHangs) {
   const struct {
     bool limite;
     Lance lance;
   } linhas[] = {
-      {true, {.fase = 13, .ab = 100, .au = 60, .tot = 20}},
-      {false, {.fase = 13, .ab = 30, .au = 20, .tot = 10, .pilha = {0, 0, 4, 0}}},
+      {true, {.fase = 13, .abertura_player = 100, .aumento_player = 60, .total_player = 20}},
+      {false,
+       {.fase = 13,
+        .abertura_player = 30,
+        .aumento_player = 20,
+        .total_player = 10,
+        .pilha_player = {0, 0, 4, 0}}},
   };
   for (const auto& l : linhas) {
     Fresh();
@@ -250,7 +255,7 @@ TEST_F(Comandos, CmdTudoAtPhase13AboveTheTargetHangs) {
     EXPECT_THROW(Click("CmdTudo"), vb::ProgramHung);
     EXPECT_TRUE(vb::Engine::Get().hung());
     EXPECT_EQ(Caption(F()), titulo + " (Não está respondendo)");
-    EXPECT_EQ(MesaPote, l.lance.ab + l.lance.au + l.lance.tot);
+    EXPECT_EQ(MesaPote, l.lance.abertura_player + l.lance.aumento_player + l.lance.total_player);
     EXPECT_FALSE(Click("CmdAcabei", 0));
     vb::Input fechar = On("", -1, vb::Input::Type::Close);
     try {
@@ -270,21 +275,21 @@ struct Desfazer {
 };
 
 // Take back the highest level that holds chips, whichever turn laid it.
-TEST_F(Comandos, CmdDesfazerTakesBackTheLastLevel) {
+TEST_F(PlayerCommands, CmdDesfazerTakesBackTheLastLevel) {
   // clang-format off
   const std::vector<Desfazer> linhas = {
-      {"third level", {.fase = 12, .ab = 30, .au = 20, .tot = 40}, {30, 20, 0, 0, 0}, 50, 50, 700},
-      {"second level", {.fase = 12, .ab = 30, .au = 20}, {30, 0, 0, 0, 0}, 30, 30, 680},
-      {"first level", {.ab = 30}, {0, 0, 0, 0, 0}, 0, 0, 690},
+      {"third level", {.fase = 12, .abertura_player = 30, .aumento_player = 20, .total_player = 40}, {30, 20, 0, 0, 0}, 50, 50, 700},
+      {"second level", {.fase = 12, .abertura_player = 30, .aumento_player = 20}, {30, 0, 0, 0, 0}, 30, 30, 680},
+      {"first level", {.abertura_player = 30}, {0, 0, 0, 0, 0}, 0, 0, 690},
       // She has answered it already; it goes all the same.
-      {"first level, answered", {.fase = 11, .ab = 30, .ab_p = 30}, {0, 0, 0, 0, 0}, 0, 0, 690},
+      {"first level, answered", {.fase = 11, .abertura_player = 30, .abertura_poker = 30}, {0, 0, 0, 0, 0}, 0, 0, 690},
       {"nothing staked", {}, {0, 0, 0, 0, 0}, 0, 0, 660},
       // The sweep gives back the carried 20 too, while MesaPote still counts them: 20 chips
       // appear.
-      {"first level, chips carried", {.ab = 30, .extra = 20}, {0, 0, 0, 0, 0}, 20, 0, 710},
-      {"final, second stake", {.fase = 31, .ab = 30, .aposta = 50, .tot_aposta = 40},
+      {"first level, chips carried", {.abertura_player = 30, .extra_player = 20}, {0, 0, 0, 0, 0}, 20, 0, 710},
+      {"final, second stake", {.fase = 31, .abertura_player = 30, .aposta_player = 50, .total_aposta_player = 40},
        {30, 0, 0, 50, 0}, 80, 80, 700},
-      {"final, first stake", {.fase = 31, .ab = 30, .aposta = 50}, {30, 0, 0, 0, 0}, 30, 30, 710},
+      {"final, first stake", {.fase = 31, .abertura_player = 30, .aposta_player = 50}, {30, 0, 0, 0, 0}, 30, 30, 710},
   };
   // clang-format on
   for (const Desfazer& l : linhas) {
@@ -305,10 +310,10 @@ TEST_F(Comandos, CmdDesfazerTakesBackTheLastLevel) {
 
 // With nothing staked in the final round, or outside the betting, it does nothing at all, not
 // even the redraw of the stack.
-TEST_F(Comandos, CmdDesfazerWithNothingToTakeBackInTheFinalRound) {
+TEST_F(PlayerCommands, CmdDesfazerWithNothingToTakeBackInTheFinalRound) {
   for (int fase : {30, 20}) {
     Fresh();
-    Montar({.fase = fase, .ab = 30, .pilha = {0, 10, 10, 10}});
+    Montar({.fase = fase, .abertura_player = 30, .pilha_player = {0, 10, 10, 10}});
     F().LabelPlayerFichas.Caption = "?";
     Click("CmdDesfazer", 0);
     EXPECT_EQ(Contagem(false, kUm), 0);  // TrocarFichas would have broken a five
@@ -318,7 +323,7 @@ TEST_F(Comandos, CmdDesfazerWithNothingToTakeBackInTheFinalRound) {
 }
 
 // In the exchange it undoes the marks.
-TEST_F(Comandos, CmdDesfazerInTheExchangeUndoesTheMarks) {
+TEST_F(PlayerCommands, CmdDesfazerInTheExchangeUndoesTheMarks) {
   Montar({.fase = 20});
   PrepararTroca();
   MarcarCarta(2);
@@ -333,7 +338,7 @@ TEST_F(Comandos, CmdDesfazerInTheExchangeUndoesTheMarks) {
 }
 
 // Ending the turn with nothing staked is a pass: the hand goes to her, and she answers.
-TEST_F(Comandos, CmdAcabeiWithNothingStakedPassesTheHand) {
+TEST_F(PlayerCommands, CmdAcabeiWithNothingStakedPassesTheHand) {
   Montar({.mao = false});
   MostrarSeta(false);
   Gravar();
@@ -357,12 +362,24 @@ struct Sair {
 
 // Walking away moves no chip; CmdMaisUma pays her what lies on the table, if she has staked
 // and the hand does not replay a tie.
-TEST_F(Comandos, CmdSairLeavesTheTableForCmdMaisUmaToPay) {
+TEST_F(PlayerCommands, CmdSairLeavesTheTableForCmdMaisUmaToPay) {
   const std::vector<Sair> linhas = {
-      {"betting, she staked", 0, {.fase = 11, .ab = 30, .ab_p = 30}, false, 0, 0, 660 + 62},
-      {"betting, she did not stake", 0, {.ab = 30}, false, 30, 2, 660},
-      {"betting, a replayed tie", 0, {.extra = 100, .extra_p = 100}, true, 100, 2, 640},
-      {"exchange", 1, {.fase = 20, .ab = 40, .ab_p = 40}, false, 0, 0, 660 + 82},
+      {"betting, she staked",
+       0,
+       {.fase = 11, .abertura_player = 30, .abertura_poker = 30},
+       false,
+       0,
+       0,
+       660 + 62},
+      {"betting, she did not stake", 0, {.abertura_player = 30}, false, 30, 2, 660},
+      {"betting, a replayed tie", 0, {.extra_player = 100, .extra_poker = 100}, true, 100, 2, 640},
+      {"exchange",
+       1,
+       {.fase = 20, .abertura_player = 40, .abertura_poker = 40},
+       false,
+       0,
+       0,
+       660 + 82},
   };
   for (const Sair& l : linhas) {
     SCOPED_TRACE(l.nome);
@@ -411,7 +428,7 @@ TEST_F(Comandos, CmdSairLeavesTheTableForCmdMaisUmaToPay) {
   }
 }
 
-TEST_F(Comandos, CmdSairOnTheLastBarEndsTheGame) {
+TEST_F(PlayerCommands, CmdSairOnTheLastBarEndsTheGame) {
   Montar({.fase = 50});
   MostrarFim("a", "b");
   ComSom();
@@ -426,7 +443,7 @@ TEST_F(Comandos, CmdSairOnTheLastBarEndsTheGame) {
 
 // A whole turn on the keyboard: the chip places walked with the arrows and Tab, chips taken with
 // Space and Enter, an accelerator, and the turn ended with Enter on "Acabei".
-TEST_F(Comandos, AWholeTurnByKeysAlone) {
+TEST_F(PlayerCommands, AWholeTurnByKeysAlone) {
   Montar({.mao = false});
   PrepararPlayer();
   auto focado = [&] { return F().ActiveControl(); };
@@ -484,8 +501,8 @@ TEST_F(Comandos, AWholeTurnByKeysAlone) {
 
 // A click on another button while "Acabei" has the focus runs that button, though the focus
 // wraps away on the way.
-TEST_F(Comandos, AClickElsewhereStillRunsWhileAcabeiWrapsTheFocus) {
-  Montar({.ab = 30});
+TEST_F(PlayerCommands, AClickElsewhereStillRunsWhileAcabeiWrapsTheFocus) {
+  Montar({.abertura_player = 30});
   PrepararPlayer();
   vb::Engine::Get().RunFocusEvents();  // back in the event loop, as after any turn
   F().CmdAcabei(0).SetFocus();

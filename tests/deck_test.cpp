@@ -10,33 +10,21 @@
 
 #include "core/cards.h"
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/rnd.h"
 #include "platform/runtime.h"
 #include "platform/settings.h"
+#include "support.h"
 
 namespace {
 
-class DeckTest : public ::testing::Test {
+class DeckAndDeal : public ::testing::Test {
  protected:
-  void SetUp() override {
-    ResetGameState();
-    vb::InstallSettings(nullptr);
-    vb::ScriptRnd({});
-    vb::SetRndState(20240611);
-  }
-  void TearDown() override { vb::InstallSettings(nullptr); }
+  void SetUp() override { ResetProcess(20240611); }
+  void TearDown() override { ResetProcess(); }
 };
 
-int ErrorOf(void (*f)()) {
-  try {
-    f();
-  } catch (const vb::RuntimeError& e) {
-    return e.number();
-  }
-  return 0;
-}
-
-TEST_F(DeckTest, CardTagsByCodeAndAsText) {
+TEST_F(DeckAndDeal, CardTagsByCodeAndAsText) {
   struct Row {
     const char* code;
     int tag;
@@ -59,7 +47,7 @@ TEST_F(DeckTest, CardTagsByCodeAndAsText) {
   }
 }
 
-TEST_F(DeckTest, EncherBaralhoLosesTheLowestRanksOfASmallerDeck) {
+TEST_F(DeckAndDeal, EncherBaralhoLosesTheLowestRanksOfASmallerDeck) {
   struct Row {
     int nro;
     char lowest;  // rank of the last four places
@@ -77,7 +65,7 @@ TEST_F(DeckTest, EncherBaralhoLosesTheLowestRanksOfASmallerDeck) {
     for (int i = r.nro + 1; i <= 52; ++i) EXPECT_EQ(Baralho[i], "xx") << "place " << i;
   }
   NroCartas = 53;
-  EXPECT_EQ(ErrorOf(EncherBaralho), vb::err::kSubscript);
+  EXPECT_FAULT(EncherBaralho(), vb::err::kSubscript);
 }
 
 // Many shuffles with the real generator. Before each one the live places hold labels of their
@@ -91,13 +79,13 @@ struct ShuffleCase {
   int shuffles;
 };
 
-class ShuffleStatistics : public DeckTest, public ::testing::WithParamInterface<ShuffleCase> {};
+class ShuffleStatistics : public DeckAndDeal, public ::testing::WithParamInterface<ShuffleCase> {};
 
 TEST_P(ShuffleStatistics, PartnersAndCountLieIn15ToTamanhoWithHalfWeightEnds) {
   const int t = GetParam().tamanho;
   std::map<int, int> n_seen, j_seen;
   std::vector<std::string> label(53);
-  for (int p = 1; p <= 52; ++p) label[p] = "L" + std::to_string(p);
+  for (int p = 1; p <= 52; ++p) label[p] = std::to_string(p).insert(0, 1, 'L');
 
   for (int s = 0; s < GetParam().shuffles; ++s) {
     for (int p = 1; p <= 52; ++p) Baralho[p] = label[p];
@@ -152,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(DeckSizes, ShuffleStatistics,
                                            ShuffleCase{20, 10000}),
                          [](const auto& info) { return std::to_string(info.param.tamanho); });
 
-TEST_F(DeckTest, ShuffleSwapsPlaceIWithItsPartnerInOrder) {
+TEST_F(DeckAndDeal, ShuffleSwapsPlaceIWithItsPartnerInOrder) {
   NroCartas = 20;
   EncherBaralho();
   const Deck start = Baralho;
@@ -173,7 +161,7 @@ TEST_F(DeckTest, ShuffleSwapsPlaceIWithItsPartnerInOrder) {
   EXPECT_EQ(Baralho[2], "JP");
 }
 
-TEST_F(DeckTest, DarCartasGivesTheFirstBlockToWhoHoldsTheHand) {
+TEST_F(DeckAndDeal, DarCartasGivesTheFirstBlockToWhoHoldsTheHand) {
   NroCartas = 52;
   EncherBaralho();
   const Deck start = Baralho;
@@ -194,7 +182,7 @@ TEST_F(DeckTest, DarCartasGivesTheFirstBlockToWhoHoldsTheHand) {
   }
 }
 
-TEST_F(DeckTest, OrdenarCartasByTagAsNumberNotAsText) {
+TEST_F(DeckAndDeal, OrdenarCartasByTagAsNumberNotAsText) {
   // As texts "10" < "2" < "6" < "8" < "9"; as numbers 2 < 6 < 8 < 9 < 10.
   CartasPoker = {"", "QD", "KT", "QC", "AD", "KD"};
   CartasPlayer = {"", "2T", "DD", "9C", "AT", "KP"};
@@ -205,7 +193,7 @@ TEST_F(DeckTest, OrdenarCartasByTagAsNumberNotAsText) {
   EXPECT_EQ(CartasPlayer, (Hand{"", "AT", "KP", "DD", "9C", "2T"}));
 
   CartasPlayer = {"", "AC", "KC", "ZZ", "2C", "3C"};
-  EXPECT_EQ(ErrorOf([] { OrdenarCartas(false); }), vb::err::kElementNotFound);
+  EXPECT_FAULT(OrdenarCartas(false), vb::err::kElementNotFound);
 }
 
 float FreshDrawAfterReseed(std::uint64_t state, double seed) {
@@ -214,7 +202,7 @@ float FreshDrawAfterReseed(std::uint64_t state, double seed) {
   return vb::Rnd();
 }
 
-TEST_F(DeckTest, GuardarSementeFirstExitThenReseedsWithTheStoredValue) {
+TEST_F(DeckAndDeal, GuardarSementeFirstExitThenReseedsWithTheStoredValue) {
   const std::uint64_t state = vb::RndState();
   GuardarSemente();
   EXPECT_EQ(std::bit_cast<std::uint32_t>(Semente), 1059454947u);
@@ -231,7 +219,7 @@ TEST_F(DeckTest, GuardarSementeFirstExitThenReseedsWithTheStoredValue) {
   EXPECT_NE(vb::GetSetting("Trevim", "Ramdomize", "Seed"), "0.6484358");
 }
 
-TEST_F(DeckTest, GuardarSementeReadsAGarbledValueAsValDoes) {
+TEST_F(DeckAndDeal, GuardarSementeReadsAGarbledValueAsValDoes) {
   struct Row {
     const char* stored;
     double read_as;  // 0: no seed, the fixed first value follows
@@ -249,7 +237,7 @@ TEST_F(DeckTest, GuardarSementeReadsAGarbledValueAsValDoes) {
     EXPECT_EQ(vb::GetSetting("Trevim", "Ramdomize", "Seed"), expected) << "'" << r.stored << "'";
   }
   vb::SaveSetting("Trevim", "Ramdomize", "Seed", "1e300");
-  EXPECT_EQ(ErrorOf(GuardarSemente), vb::err::kOverflow);
+  EXPECT_FAULT(GuardarSemente(), vb::err::kOverflow);
 }
 
 }  // namespace

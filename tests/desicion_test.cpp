@@ -8,24 +8,23 @@
 #include <string>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/rnd.h"
+#include "support.h"
 
 namespace {
 
 using Moods = std::array<int, 9>;
 
 // Rnd values that make the draws come out as wanted.
-float MoodRnd(int mood) {
-  return (mood + 0.5f) / 9;
-}
 constexpr float kBottom = 0.0f;         // a band gives a
 constexpr float kTop = 0x1.fffffep-1f;  // the largest value below 1: a band gives b
 constexpr float kUnused = 0.5f;         // must still be in the script after the call
 
-class DesicionTest : public ::testing::Test {
+class Decision : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
+    ResetProcess();
     vb::ScriptRnd({});
     MaxTroca = 4;
     LimiteAbertura = true;
@@ -39,7 +38,7 @@ class DesicionTest : public ::testing::Test {
 
   // Runs a stage at the given mood; the next Rnd (a band, if the row draws one) is `band`.
   static void Run(const std::string& stage, int mood, float band = kUnused) {
-    vb::ScriptRnd({MoodRnd(mood), band});
+    vb::ScriptRnd({Humor(mood), band});
     Desicion(stage);
     ASSERT_EQ(Semente, static_cast<float>(mood));
   }
@@ -62,7 +61,7 @@ class DesicionTest : public ::testing::Test {
   }
 };
 
-TEST_F(DesicionTest, Cubre2OneChipShortGivesTwoAtMoodsZeroAndOne) {
+TEST_F(Decision, Cubre2OneChipShortGivesTwoAtMoodsZeroAndOne) {
   MesaPote = 31;
   MesaApostas = 30;
   EXPECT_EQ(AtEveryMood("CUBRE2", [] { return AumentoAberturaPoker; }),
@@ -73,7 +72,7 @@ TEST_F(DesicionTest, Cubre2OneChipShortGivesTwoAtMoodsZeroAndOne) {
   }
 }
 
-TEST_F(DesicionTest, Cubre3OneChipShortAlwaysPutsItIn) {
+TEST_F(Decision, Cubre3OneChipShortAlwaysPutsItIn) {
   MesaPote = 31;
   MesaApostas = 30;
   JogoPlayer = "ER";  // even against the strongest hand
@@ -81,7 +80,7 @@ TEST_F(DesicionTest, Cubre3OneChipShortAlwaysPutsItIn) {
             (Moods{1, 1, 1, 1, 1, 1, 1, 1, 1}));
 }
 
-TEST_F(DesicionTest, NegativeFaltaPassesThrough) {
+TEST_F(Decision, NegativeFaltaPassesThrough) {
   MesaApostas = 20;  // she is 20 chips over the player
   EXPECT_EQ(AtEveryMood("CUBRE2", [] { return AumentoAberturaPoker; }),
             (Moods{0, 0, -10, -20, -10, -20, -10, -20, -10}));
@@ -89,7 +88,7 @@ TEST_F(DesicionTest, NegativeFaltaPassesThrough) {
             (Moods{0, -20, -20, -20, -20, -20, -20, -20, -20}));
 }
 
-TEST_F(DesicionTest, AbreAtTheLimitStakeGivesZeroButDrawsTheMood) {
+TEST_F(Decision, AbreAtTheLimitStakeGivesZeroButDrawsTheMood) {
   JogoPoker = "ER";
   JogoPlayer = "P1";
   AberturaPlayer = 150;
@@ -101,7 +100,7 @@ TEST_F(DesicionTest, AbreAtTheLimitStakeGivesZeroButDrawsTheMood) {
   EXPECT_EQ(AberturaPoker, 40);
 }
 
-TEST_F(DesicionTest, CarRows) {
+TEST_F(Decision, CarRows) {
   struct Case {
     const char* her;
     const char* his;
@@ -134,7 +133,7 @@ TEST_F(DesicionTest, CarRows) {
   }
 }
 
-TEST_F(DesicionTest, OpeningLimitCutsAllChipsOnlyWhenOn) {
+TEST_F(Decision, OpeningLimitCutsAllChipsOnlyWhenOn) {
   JogoPoker = "FU";
   AberturaPlayer = 30;  // 5 < P <= 50, her strong hand, mood 8: all chips
   Run("CUBRE1", 8);
@@ -166,7 +165,7 @@ TEST_F(DesicionTest, OpeningLimitCutsAllChipsOnlyWhenOn) {
   EXPECT_EQ(AumentoAberturaPoker, 900);
 }
 
-TEST_F(DesicionTest, TiesReadAsNotAhead) {
+TEST_F(Decision, TiesReadAsNotAhead) {
   PontosPoker = 5000;
   for (int diff : {0, 1}) {
     PontosPlayer = PontosPoker + diff;
@@ -186,7 +185,7 @@ TEST_F(DesicionTest, TiesReadAsNotAhead) {
   }
 }
 
-TEST_F(DesicionTest, BandsReachBothEnds) {
+TEST_F(Decision, BandsReachBothEnds) {
   struct Case {
     const char* stage;
     std::function<void()> setup;
@@ -225,7 +224,7 @@ TEST_F(DesicionTest, BandsReachBothEnds) {
   }
 }
 
-TEST_F(DesicionTest, RowsOfTheirOwn) {
+TEST_F(Decision, RowsOfTheirOwn) {
   // The mood of nothing gives up even a strong hand against a stake above 5.
   JogoPoker = "ER";
   AberturaPlayer = 30;
@@ -259,7 +258,7 @@ TEST_F(DesicionTest, RowsOfTheirOwn) {
             (Moods{30, 30, 30, 30, 30, 30, 30, 30, 30}));
 }
 
-TEST_F(DesicionTest, ClosingStepsInOrder) {
+TEST_F(Decision, ClosingStepsInOrder) {
   // The player has no chips and she is nearly out: all in, then the opening limit cuts it.
   FichasPlayer = 0;
   FichasPoker = 200;
@@ -281,7 +280,7 @@ TEST_F(DesicionTest, ClosingStepsInOrder) {
   EXPECT_EQ(ApostaPoker, 30);
 }
 
-TEST_F(DesicionTest, UnknownKeyChangesNothingAndDrawsNothing) {
+TEST_F(Decision, UnknownKeyChangesNothingAndDrawsNothing) {
   Semente = 3;
   vb::SetRndState(77);
   for (const char* key : {"", "abre", "CUBRE4", "CAR "}) {
@@ -298,7 +297,7 @@ const char* const kStages[] = {"CAR",    "ABRE",  "CUBRE1",      "CUBRE2",
                                "CUBRE3", "FINAL", "CUBREFINAL1", "CUBREFINAL2"};
 const char* const kClasses[] = {"ER", "PO", "CO", "FU", "ES", "PI", "P2", "P1", "NN"};
 
-TEST_F(DesicionTest, MoodsAreEvenAndEachStageReseedsWithTheLastMood) {
+TEST_F(Decision, MoodsAreEvenAndEachStageReseedsWithTheLastMood) {
   vb::SetRndState(0x5EED);
   Semente = 0;
   constexpr int kCalls = 45000;
@@ -327,7 +326,7 @@ TEST_F(DesicionTest, MoodsAreEvenAndEachStageReseedsWithTheLastMood) {
 
 // Every stage over every pair of classes, both house rules, both limits, several stakes, every
 // mood: the ceilings always hold, only the stage's variable moves, at most one band is drawn.
-TEST_F(DesicionTest, WalkOfAllTables) {
+TEST_F(Decision, WalkOfAllTables) {
   struct Stakes {
     int fichas_poker, fichas_player, pote, apostas, abertura_player, aumento_player, total_player,
         abertura_poker, aumento_poker, aposta_player, cartas_player, max_troca, limite, lead;
@@ -379,7 +378,7 @@ TEST_F(DesicionTest, WalkOfAllTables) {
               CartasTrocaPoker = 3;
               TotalAberturaPoker = ApostaPoker = TotalApostaPoker = kPreset;
               const std::array<int, 6> before = Results();
-              vb::ScriptRnd({MoodRnd(m), (m % 2) ? kTop : kBottom, kUnused});
+              vb::ScriptRnd({Humor(m), (m % 2) ? kTop : kBottom, kUnused});
               Desicion(key);
               const std::array<int, 6> after = Results();
               const auto where = [&] {

@@ -12,18 +12,13 @@
 #include "core/hand_cycle.h"
 #include "opponent/leyendas.h"
 #include "opponent/troca.h"
+#include "support.h"
 #include "table_fixture.h"
 
 namespace {
 
 // A drawn line of speech takes one Rnd; this one picks the first line of any key.
 constexpr float L = 0.01f;
-float Mood(int m) {
-  return (m + 0.5f) / 9;
-}
-float Band(int a, int b, int x) {
-  return (x - a + 0.5f) / (b - a + 1);
-}
 
 constexpr Hand5 kNada = {"KC", "JD", "9P", "7T", "3C"};      // nothing, king high
 constexpr Hand5 kParCinco = {"5C", "5D", "QP", "8T", "2C"};  // a pair of fives
@@ -82,7 +77,7 @@ TEST_F(FinalRound, SheIsAskedAgainAfterBothPassAndMayStillBet) {
   Mesa(100, 100, 10, 10);
   MaoPlayer = true;
   // Her lead: mood 1 against a player who stood pat is a pass.
-  vb::ScriptRnd({Mood(1), L, L});
+  vb::ScriptRnd({Humor(1), L, L});
   CmdAcabei_Click(1);
   EXPECT_EQ(Fala(true), "Vai!,|Aposta, se quiser");
   EXPECT_FALSE(MaoPlayer);
@@ -90,7 +85,7 @@ TEST_F(FinalRound, SheIsAskedAgainAfterBothPassAndMayStillBet) {
   ASSERT_TRUE(F().FraApostaPlayer.Visible);
 
   // His pass; asked again, mood 0 bets 20 to 49: 25.
-  vb::ScriptRnd({L, Mood(0), Band(20, 49, 25), L, L});
+  vb::ScriptRnd({L, Humor(0), Faixa(20, 49, 25), L, L});
   const auto t0 = host->Now();
   EXPECT_TRUE(Click("CmdAcabei", 0));
   EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
@@ -134,7 +129,7 @@ TEST_F(FinalRound, DoublePassMovesTheWholeTableToTheCentre) {
     PrepararPlayer();
     const int total = Total();
     const int mesa = r.apostas + r.pote + r.pingo;
-    vb::ScriptRnd({L, Mood(r.mood), L});  // his pass; asked again, she passes too
+    vb::ScriptRnd({L, Humor(r.mood), L});  // his pass; asked again, she passes too
     const auto t0 = host->Now();
     EXPECT_TRUE(Click("CmdAcabei", 0));
     EXPECT_EQ(vb::ScriptedRndLeft(), 0u);
@@ -266,7 +261,7 @@ TEST_F(FinalRound, BetBelowHersGetsTheTurnBack) {
   EXPECT_EQ(MesaPote, 20);
 }
 
-// He is all in and short (A2), or she has nothing left against his raise (B2): the first test
+// He is all in and short, or she has nothing left against his raise: the first test
 // of VezPokerFinal always takes these tables to a silent showdown, so her own answers are
 // reached only by calling it past that test.
 TEST_F(FinalRound, AllInTablesAreTakenByTheFirstTest) {
@@ -280,9 +275,9 @@ TEST_F(FinalRound, AllInTablesAreTakenByTheFirstTest) {
     std::int64_t espera;
   };
   const Row rows[] = {
-      // A2: her stake of the round is spoken with a key that has no lines.
+      // He is all in and short: her stake of the round is spoken with a key that has no lines.
       {"he is all in and short", 100, 0, 40, 30, 15, 20, true, "| 15 Fichas", "|Aposto tudo", 0},
-      // B2: her side speaks of his stake; she moves TotalApostaPoker, which is 0.
+      // She has nothing left: her side speaks of his stake; she moves TotalApostaPoker, which is 0.
       {"she has nothing left", 0, 80, 15, 30, 5, 20, false, "|Aposto tudo 20 Fichas", "|", 1000},
   };
   for (const Row& r : rows) {
@@ -351,7 +346,7 @@ TEST_F(FinalRound, HerAnswerToHisFirstBet) {
       {"gives up",
        kNada,
        100,
-       {Mood(1), L},
+       {Humor(1), L},
        50,
        2000,
        0,
@@ -364,7 +359,7 @@ TEST_F(FinalRound, HerAnswerToHisFirstBet) {
       {"covers",
        kNada,
        100,
-       {Mood(0), L},
+       {Humor(0), L},
        40,
        1500,
        20,
@@ -378,7 +373,7 @@ TEST_F(FinalRound, HerAnswerToHisFirstBet) {
       {"raises",
        kCor,
        100,
-       {Mood(0), Band(10, 19, 15), L, L},
+       {Humor(0), Faixa(10, 19, 15), L, L},
        31,
        1500,
        35,
@@ -392,7 +387,7 @@ TEST_F(FinalRound, HerAnswerToHisFirstBet) {
       {"all in and short",
        kNada,
        5,
-       {Mood(0), L},
+       {Humor(0), L},
        40,
        1500,
        15,
@@ -460,7 +455,7 @@ TEST_F(FinalRound, HerAnswerToHisRaise) {
     EXPECT_TRUE(Chip(6));
     EXPECT_TRUE(Chip(6));
     EXPECT_TRUE(Chip(4));  // 25 against her 10
-    vb::ScriptRnd({Mood(r.mood), L, L});
+    vb::ScriptRnd({Humor(r.mood), L, L});
     const auto t0 = host->Now();
     EXPECT_TRUE(Click("CmdAcabei", 0));
     EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
@@ -491,7 +486,7 @@ TEST_F(FinalRound, ShowdownClickedDuringHerLastWaitRunsInsideHerTurn) {
   ElaApostou(10);
   EXPECT_TRUE(Chip(6));
   EXPECT_TRUE(Chip(6));
-  vb::ScriptRnd({Mood(0), L});
+  vb::ScriptRnd({Humor(0), L});
   const auto t0 = host->Now();
   host->QueueAt(t0 + 700, On("CmdConfrontar"));
   vb::ClearMciSent();

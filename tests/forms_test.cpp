@@ -14,7 +14,7 @@
 
 namespace {
 
-class FormsTest : public ::testing::Test {
+class FormEngine : public ::testing::Test {
  protected:
   void SetUp() override {
     vb::Engine::Get().Reset();
@@ -57,7 +57,7 @@ class FormsTest : public ::testing::Test {
   std::vector<std::string> log;
 };
 
-TEST_F(FormsTest, TabOrderAndFocusEvents) {
+TEST_F(FormEngine, TabOrderAndFocusEvents) {
   pics(0).SetFocus();
   main->SendKeys("{TAB}");
   main->SendKeys("{TAB}");
@@ -70,7 +70,7 @@ TEST_F(FormsTest, TabOrderAndFocusEvents) {
             (std::vector<std::string>{"got0", "lost0", "got1", "lost1", "got2", "lost2", "got1"}));
 }
 
-TEST_F(FormsTest, FocusEventsRunBeforeAClickAndAfterItsHandler) {
+TEST_F(FormEngine, FocusEventsRunBeforeAClickAndAfterItsHandler) {
   std::vector<std::string> order;
   button->GotFocus = [&] { order.push_back("got button"); };
   button->Click = [&] {
@@ -87,7 +87,7 @@ TEST_F(FormsTest, FocusEventsRunBeforeAClickAndAfterItsHandler) {
   EXPECT_EQ(log, (std::vector<std::string>{"lost0", "got2"}));
 }
 
-TEST_F(FormsTest, DisablingTheFocusedControlMovesTheFocusOnAndStillFiresLostFocus) {
+TEST_F(FormEngine, DisablingTheFocusedControlMovesTheFocusOnAndStillFiresLostFocus) {
   pics(1).SetFocus();
   vb::DoEvents();
   log.clear();
@@ -103,7 +103,7 @@ TEST_F(FormsTest, DisablingTheFocusedControlMovesTheFocusOnAndStillFiresLostFocu
   EXPECT_THROW(pics(1).SetFocus(), vb::RuntimeError);
 }
 
-TEST_F(FormsTest, MissingElementsAndKeysFault) {
+TEST_F(FormEngine, MissingElementsAndKeysFault) {
   try {
     pics(3);
     FAIL();
@@ -128,7 +128,7 @@ TEST_F(FormsTest, MissingElementsAndKeysFault) {
   EXPECT_THROW(bar.Button("B9"), vb::RuntimeError);
 }
 
-TEST_F(FormsTest, ToolbarImageZeroAndPictureCopies) {
+TEST_F(FormEngine, ToolbarImageZeroAndPictureCopies) {
   vb::ImageList& store = main->AddImageList("Store");
   store.Add("backs/1", "FRENTE");
   vb::Control& bar = main->Add(vb::Kind::Toolbar, "Bar");
@@ -146,7 +146,7 @@ TEST_F(FormsTest, ToolbarImageZeroAndPictureCopies) {
   EXPECT_EQ(store.PictureOf("FRENTE"), "backs/7");
 }
 
-TEST_F(FormsTest, AQueuedClickRunsInsideAWaitingHandler) {
+TEST_F(FormEngine, AQueuedClickRunsInsideAWaitingHandler) {
   int clicks = 0;
   button->Click = [&] { ++clicks; };
   int ticks = 0;
@@ -168,7 +168,7 @@ TEST_F(FormsTest, AQueuedClickRunsInsideAWaitingHandler) {
   EXPECT_EQ(timer->timer_due, 450);
 }
 
-TEST_F(FormsTest, TicksDueTogetherFireInTheirFixedOrder) {
+TEST_F(FormEngine, TicksDueTogetherFireInTheirFixedOrder) {
   vb::Control& late = main->Add(vb::Kind::Timer, "Late");
   late.timer_order = 3;
   timer->timer_order = 0;
@@ -183,7 +183,7 @@ TEST_F(FormsTest, TicksDueTogetherFireInTheirFixedOrder) {
   EXPECT_EQ(order, "TLTL");
 }
 
-TEST_F(FormsTest, ModalFormReturnsWhenItUnloads) {
+TEST_F(FormEngine, ModalFormReturnsWhenItUnloads) {
   vb::Form dialog("Dialog");
   vb::Control& ok = dialog.Add(vb::Kind::CommandButton, "Ok");
   ok.Click = [&] { vb::Engine::Get().Unload(dialog); };
@@ -202,7 +202,7 @@ TEST_F(FormsTest, ModalFormReturnsWhenItUnloads) {
   EXPECT_EQ(host->refused[0].control, "CmdOk");
 }
 
-TEST_F(FormsTest, ClosingTheMainFormDuringAWaitRunsTheUnloadAndEnds) {
+TEST_F(FormEngine, ClosingTheMainFormDuringAWaitRunsTheUnloadAndEnds) {
   bool unloaded = false, resumed = false;
   main->Unload = [&](int&) { unloaded = true; };
   timer->Interval = 1000;
@@ -222,7 +222,7 @@ TEST_F(FormsTest, ClosingTheMainFormDuringAWaitRunsTheUnloadAndEnds) {
   EXPECT_FALSE(resumed);
 }
 
-TEST_F(FormsTest, ClosingAMarkedDialogEndsTheGameThroughTheMainUnload) {
+TEST_F(FormEngine, ClosingAMarkedDialogEndsTheGameThroughTheMainUnload) {
   bool main_unloaded = false;
   main->Unload = [&](int&) { main_unloaded = true; };
   vb::Form dialog("Shuffle");
@@ -245,7 +245,7 @@ TEST_F(FormsTest, ClosingAMarkedDialogEndsTheGameThroughTheMainUnload) {
   EXPECT_FALSE(after);
 }
 
-TEST_F(FormsTest, EndRunsNoUnloadAndHangRefusesInput) {
+TEST_F(FormEngine, EndRunsNoUnloadAndHangRefusesInput) {
   bool unloaded = false;
   main->Unload = [&](int&) { unloaded = true; };
   try {
@@ -270,7 +270,7 @@ TEST_F(FormsTest, EndRunsNoUnloadAndHangRefusesInput) {
   EXPECT_FALSE(unloaded);
 }
 
-TEST_F(FormsTest, AClickTakesTheFocusEvenWhenLostFocusMovesIt) {
+TEST_F(FormEngine, AClickTakesTheFocusEvenWhenLostFocusMovesIt) {
   // A LostFocus handler that wraps the focus back does not stop the click.
   pics(0).SetFocus();
   pics(0).LostFocus = [&] { pics(2).SetFocus(); };

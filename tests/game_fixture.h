@@ -20,20 +20,16 @@ class GameTest : public ::testing::Test {
  protected:
   void SetUp() override { Fresh(); }
   void TearDown() override {
-    vb::Engine::Get().Reset();
-    DestruirFormularios();
+    ResetProcess();
     host.reset();
   }
   void Fresh(std::uint64_t seed = 0) {
-    vb::Engine::Get().Reset();
-    DestruirFormularios();
-    ResetGameState();
-    vb::ScriptRnd({});
-    vb::SetRndState(seed);
-    vb::InstallSettings(nullptr);
-    vb::ClearMciSent();
+    ResetProcess(seed);
     host = std::make_unique<vb::VirtualHost>();
+    Watch();
   }
+  // The hooks a fixture watches the game through, set again after every fresh start.
+  virtual void Watch() {}
   FrmPrincipal& F() { return Frm_Principal(); }
 
   vb::Input On(const std::string& control, int index = -1,

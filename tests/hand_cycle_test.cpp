@@ -59,14 +59,10 @@ class HandCycle : public GameTest, public vb::Listener {
     GameTest::SetUp();
     g_falas.clear();
     g_momentos.clear();
+  }
+  void Watch() override {
     g_depois_da_fala = GuardarFala;
     FaseVar::Observe(GuardarFase);
-  }
-  void TearDown() override {
-    g_depois_da_fala = nullptr;
-    g_ajustes_iniciais = nullptr;
-    FaseVar::Observe(nullptr);
-    GameTest::TearDown();
   }
   void Comecar(std::uint64_t estado) {
     Fresh(estado);
@@ -146,7 +142,7 @@ TEST_F(HandCycle, HerFirstMoveThenThePlayersTurn) {
     for (const auto& f : dela) EXPECT_EQ(f.nome, "Poker (ZEVA)");
     if (c.abre) {
       ASSERT_GT(AberturaPoker, 0);
-      const std::string fichas = " " + std::to_string(AberturaPoker) + " Fichas";
+      const std::string fichas = std::string(" ").append(std::to_string(AberturaPoker)) + " Fichas";
       EXPECT_EQ(FichasPoker, 989 - AberturaPoker);
       EXPECT_EQ(static_cast<int>(MesaApostas), AberturaPoker);
       EXPECT_EQ(Caption(F().LabelPokerFichas), std::to_string(989 - AberturaPoker) + " Fichas");
@@ -340,7 +336,6 @@ TEST_F(HandCycle, ClosingAWindowDuringAWaitUnloadsAndSavesTheSeed) {
       if (m.find("CARTAINI") != std::string::npos || m.find("CARTASHOW") != std::string::npos)
         ++cartas;
     EXPECT_EQ(cartas, c.cartas_com_som);
-    g_ajustes_iniciais = nullptr;
   }
 }
 
@@ -373,7 +368,6 @@ TEST_F(HandCycle, TheShownDeckIsLaidAfterTheHands) {
       for (int i = 1; i <= 52; ++i)
         EXPECT_EQ(F().ToolbarBaraja.Button(i).ImageKey(), i <= 20 ? Baralho[i] : "") << i;
     }
-    g_ajustes_iniciais = nullptr;
   }
 }
 
@@ -426,6 +420,15 @@ TEST_F(HandCycle, TheMusicClockShowsItsCount) {
   EXPECT_EQ(Caption(F().LblMusicTime),
             " PokerZEVA  -  Jogo de Poker (Versão 2)  MusicTime = " + std::to_string(antes + 3) +
                 "    TRILHA = 0  Jogosessao = 10");
+}
+
+TEST(GameState, FaseIsATwoCharacterText) {
+  ResetProcess();
+  Fase = 0;
+  EXPECT_EQ(Fase.Text(), "0 ");
+  Fase = 31;
+  EXPECT_EQ(Fase.Text(), "31");
+  EXPECT_TRUE(Fase >= 30 && Fase < 40);
 }
 
 }  // namespace

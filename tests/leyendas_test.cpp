@@ -7,21 +7,15 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/rnd.h"
 
 namespace {
 
-class LeyendaTest : public ::testing::Test {
+class Speech : public ::testing::Test {
  protected:
-  void SetUp() override {
-    ResetGameState();
-    vb::ScriptRnd({});
-    g_leyenda_screen = nullptr;
-  }
-  void TearDown() override {
-    vb::ScriptRnd({});
-    g_leyenda_screen = nullptr;
-  }
+  void SetUp() override { ResetProcess(); }
+  void TearDown() override { ResetProcess(); }
 
   // The speech of a drawn key with Rnd scripted to one value.
   static Fala Sorteada(const std::string& chave, float rnd, int fichas = 0) {
@@ -79,7 +73,7 @@ const std::vector<Sorteio> kSorteios = {
 };
 // clang-format on
 
-TEST_F(LeyendaTest, EachDrawnKeyReachesItsNLinesAndNeverTheLast) {
+TEST_F(Speech, EachDrawnKeyReachesItsNLinesAndNeverTheLast) {
   for (const Sorteio& s : kSorteios) {
     SCOPED_TRACE(s.chave);
     EXPECT_EQ(Linhas(Sorteada(s.chave, 0.0f)), s.primeira);
@@ -95,7 +89,7 @@ TEST_F(LeyendaTest, EachDrawnKeyReachesItsNLinesAndNeverTheLast) {
   }
 }
 
-TEST_F(LeyendaTest, DrawnKeyReseedsWithSementeAndLeavesItAlone) {
+TEST_F(Speech, DrawnKeyReseedsWithSementeAndLeavesItAlone) {
   Semente = 0.6484358f;
   vb::SetRndState(12345);
   vb::Randomize(Semente);
@@ -110,7 +104,7 @@ TEST_F(LeyendaTest, DrawnKeyReseedsWithSementeAndLeavesItAlone) {
   EXPECT_FLOAT_EQ(Semente, 0.6484358f);
 }
 
-TEST_F(LeyendaTest, KeysWithoutADrawLeaveTheGeneratorAlone) {
+TEST_F(Speech, KeysWithoutADrawLeaveTheGeneratorAlone) {
   vb::SetRndState(777);
   vb::ScriptRnd({0.5f});
   for (const char* chave : {"TROCARCARTAS", "ELEAPOSTOU", "PEDECARTAS", "Clean", "EUAUMENTE"})
@@ -119,7 +113,7 @@ TEST_F(LeyendaTest, KeysWithoutADrawLeaveTheGeneratorAlone) {
   EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
 }
 
-TEST_F(LeyendaTest, FixedKeysSpotCheck) {
+TEST_F(Speech, FixedKeysSpotCheck) {
   MeuNome = "Zé";
   struct Caso {
     bool lado;
@@ -143,7 +137,7 @@ TEST_F(LeyendaTest, FixedKeysSpotCheck) {
   for (const Caso& c : casos) EXPECT_EQ(FalaDe(c.lado, c.chave, c.fichas), c.fala) << c.chave;
 }
 
-TEST_F(LeyendaTest, OneChip) {
+TEST_F(Speech, OneChip) {
   struct Caso {
     const char* chave;
     float rnd;
@@ -171,7 +165,7 @@ TEST_F(LeyendaTest, OneChip) {
   EXPECT_EQ(Sorteada("EUCUBRIABRE", 1.5f / 7, 2).Linha2, "Vou Arriscar, pago as 2 Fichas");
 }
 
-TEST_F(LeyendaTest, SevenChipsFollowEveryLineEvenAfterABlank) {
+TEST_F(Speech, SevenChipsFollowEveryLineEvenAfterABlank) {
   EXPECT_EQ(Sorteada("EUCUBRI", 0.0f, 7).Linha2, "essa, amor de  7 Fichas");
   EXPECT_EQ(Sorteada("EUDESISTI", 4.5f / 5, 7).Linha2, " 7 Fichas");  // "first" line only
   EXPECT_EQ(Sorteada("EUABRI", 4.5f / 6, 7),
@@ -179,7 +173,7 @@ TEST_F(LeyendaTest, SevenChipsFollowEveryLineEvenAfterABlank) {
   EXPECT_EQ(Sorteada("EUAUMENTEI", 2.5f / 5, 7).Linha2, "Aumento mais um pouquinho mais 7 Fichas");
 }
 
-TEST_F(LeyendaTest, PedeCartas) {
+TEST_F(Speech, PedeCartas) {
   MeuNome = "Ana";
   struct Caso {
     bool lado;
@@ -199,7 +193,7 @@ TEST_F(LeyendaTest, PedeCartas) {
   for (const Caso& c : casos) EXPECT_EQ(FalaDe(c.lado, "PEDECARTAS", c.cartas), c.fala) << c.cartas;
 }
 
-TEST_F(LeyendaTest, KeyWithNoLinesStillTakesTheChips) {
+TEST_F(Speech, KeyWithNoLinesStillTakesTheChips) {
   MeuNome = "Ana";
   EXPECT_EQ(FalaDe(true, "Clean", 0), (Fala{"Poker (ZEVA)", "", ""}));
   EXPECT_EQ(FalaDe(false, "Clean", 0), (Fala{"Ana", "", ""}));
@@ -208,7 +202,7 @@ TEST_F(LeyendaTest, KeyWithNoLinesStillTakesTheChips) {
   EXPECT_EQ(FalaDe(true, "euabri", 0).Linha2, "");  // keys are exact
 }
 
-TEST_F(LeyendaTest, LeyendaHandsTheSpeechToTheScreen) {
+TEST_F(Speech, LeyendaHandsTheSpeechToTheScreen) {
   static std::vector<std::pair<bool, Fala>> recebidas;
   recebidas.clear();
   Leyenda(true, "TROCARCARTAS");  // no screen yet: nothing happens

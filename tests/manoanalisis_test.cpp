@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/runtime.h"
 
 namespace {
@@ -30,10 +31,10 @@ Cartas Lista(const std::string& texto) {
   return cartas;
 }
 
-class ManoAnalisisTest : public ::testing::Test {
+class DrawPlan : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
+    ResetProcess();
     NroCartas = 52;
     MaxTroca = 4;
   }
@@ -59,7 +60,7 @@ struct Caso {
   const char* esperado;
 };
 
-TEST_F(ManoAnalisisTest, PlansTheDraw) {
+TEST_F(DrawPlan, PlansTheDraw) {
   const std::vector<Caso> casos = {
       // A flush of two hand cards and the next three.
       {"KC 9D 7P 4C 2T", "QC 8C 3C", 0, 4, "", "CO13C12C08C04C03C"},
@@ -118,14 +119,14 @@ TEST_F(ManoAnalisisTest, PlansTheDraw) {
   }
 }
 
-TEST_F(ManoAnalisisTest, TwentyCardDeckHasOneStraight) {
+TEST_F(DrawPlan, TwentyCardDeckHasOneStraight) {
   NroCartas = 20;
   EXPECT_EQ(Planejar(Lista("AC KD QP JC JT"), Lista("DT")), "ES14C13D12P11C10T");
 }
 
 // The floor of the straights follows the deck size: the lowest straight without the ace and the
 // ace-low one are drawn to, one rank lower is not. The 48 deck has its own row.
-TEST_F(ManoAnalisisTest, StraightFloorByDeckSize) {
+TEST_F(DrawPlan, StraightFloorByDeckSize) {
   auto carta = [](int valor, char naipe) {
     return std::string(1, static_cast<char>('0' + valor / 10)) +
            static_cast<char>('0' + valor % 10) + naipe;
@@ -161,7 +162,7 @@ TEST_F(ManoAnalisisTest, StraightFloorByDeckSize) {
   }
 }
 
-TEST_F(ManoAnalisisTest, ReadsTheSideAndAdvancesThePlace) {
+TEST_F(DrawPlan, ReadsTheSideAndAdvancesThePlace) {
   const Cartas poker = Lista("JD JP 2C 2D 2P");
   for (int i = 0; i < 5; ++i) CartasPoker[i + 1] = poker[i];
   const Cartas player = Lista("KC 9D 7P 4C 2T");
@@ -183,7 +184,7 @@ TEST_F(ManoAnalisisTest, ReadsTheSideAndAdvancesThePlace) {
   EXPECT_EQ(posicao, 19);
 }
 
-TEST_F(ManoAnalisisTest, ReadingBeyondTheDeckIsFatal) {
+TEST_F(DrawPlan, ReadingBeyondTheDeckIsFatal) {
   for (int i = 1; i <= 5; ++i) CartasPoker[i] = "2C";
   for (int i = 50; i <= 52; ++i) Baralho[i] = "3D";
   std::uint8_t posicao = 50;
@@ -191,7 +192,7 @@ TEST_F(ManoAnalisisTest, ReadingBeyondTheDeckIsFatal) {
   EXPECT_THROW(AnalisarMao(true, posicao, quantas, ""), vb::RuntimeError);
 }
 
-TEST_F(ManoAnalisisTest, ValorDaCarta) {
+TEST_F(DrawPlan, ValorDaCarta) {
   //                        hand: 1   2   3   4   5     deck: 1   2   3   4   5
   const std::string pool = std::string("13C09D07P04C02T") + "12C08C03C05D06D";
   struct Linha {
@@ -254,7 +255,7 @@ std::string Classe(const std::vector<std::string>& cartas, int baixa) {
   return "NN";
 }
 
-TEST_F(ManoAnalisisTest, RandomDrawsArePlansSheCanReallyDraw) {
+TEST_F(DrawPlan, RandomDrawsArePlansSheCanReallyDraw) {
   std::mt19937 gerador(20240611);
   const std::string ordem = "AKQJD98765432";
   const std::map<std::string, std::size_t> tamanhoDoPlano = {{"ER", 5}, {"PO", 4}, {"CO", 5},

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "core/start.h"
 #include "platform/app_path.h"
 #include "platform/mci.h"
 #include "platform/rnd.h"
@@ -16,12 +17,10 @@ using Textos = std::vector<std::string>;
 
 const std::string kPrograma = "C:\\ZEVA\\BIN";
 
-class MusicasTest : public ::testing::Test {
+class SoundDoor : public ::testing::Test {
  protected:
   void SetUp() override {
-    ResetGameState();
-    vb::ClearMciSent();
-    vb::ScriptRnd({});
+    ResetProcess();
     vb::SetAppPath(kPrograma);
   }
   void TearDown() override {
@@ -39,7 +38,7 @@ class MusicasTest : public ::testing::Test {
   }
 };
 
-TEST_F(MusicasTest, ExactCommandTexts) {
+TEST_F(SoundDoor, ExactCommandTexts) {
   TocandoEfeito = 2;
   struct Caso {
     const char* tipo;
@@ -70,17 +69,17 @@ TEST_F(MusicasTest, ExactCommandTexts) {
   for (const Caso& c : casos) EXPECT_EQ(Envia(c.tipo, c.chave, c.comando), Textos{c.texto});
 }
 
-TEST_F(MusicasTest, ChipsRattleFourTimes) {
+TEST_F(SoundDoor, ChipsRattleFourTimes) {
   const std::string fichas = "Play MUSICAS\\EFEITOS\\FICHAS.WAV";
   EXPECT_EQ(Envia("EFEITOS", "FICHAS", "PLAY"), (Textos{fichas, fichas, fichas, fichas}));
 }
 
-TEST_F(MusicasTest, UnknownTipoSendsOneEmptyCommand) {
+TEST_F(SoundDoor, UnknownTipoSendsOneEmptyCommand) {
   EXPECT_EQ(Envia("VOZES", "ABRE", "PLAY"), Textos{""});
   EXPECT_EQ(Envia("", "", ""), Textos{""});
 }
 
-TEST_F(MusicasTest, RefusedCommandSendsNothingAndLeavesTheFolderChanged) {
+TEST_F(SoundDoor, RefusedCommandSendsNothingAndLeavesTheFolderChanged) {
   struct Caso {
     const char* tipo;
     const char* comando;
@@ -97,7 +96,7 @@ TEST_F(MusicasTest, RefusedCommandSendsNothingAndLeavesTheFolderChanged) {
   }
 }
 
-TEST_F(MusicasTest, SoundPathsResolveBesideTheProgramFolder) {
+TEST_F(SoundDoor, SoundPathsResolveBesideTheProgramFolder) {
   // The player resolves the path while the command arrives, inside the call.
   vb::SetAppPath("/jogo/bin");
   std::string arquivo;
@@ -110,7 +109,7 @@ TEST_F(MusicasTest, SoundPathsResolveBesideTheProgramFolder) {
   EXPECT_EQ(vb::CurDir(), "/jogo/bin");
 }
 
-TEST_F(MusicasTest, ShuffleMelodyCycle) {
+TEST_F(SoundDoor, ShuffleMelodyCycle) {
   const std::string pasta = " MUSICAS\\MELODIAS\\";
   // 0 (effects just switched on) plays the first and becomes 1.
   EXPECT_EQ(Envia("MELODIAS", "BARAJANDO", "PLAY"), Textos{"Play" + pasta + "BARAJANDO1.WAV"});
@@ -150,7 +149,7 @@ TEST_F(MusicasTest, ShuffleMelodyCycle) {
   EXPECT_EQ(TocandoEfeito, tocando);
 }
 
-TEST_F(MusicasTest, ShuffleDrawReseedsWithSemente) {
+TEST_F(SoundDoor, ShuffleDrawReseedsWithSemente) {
   Semente = 4;
   vb::SetRndState(99);
   vb::Randomize(Semente);

@@ -33,7 +33,7 @@ struct Caso {
 const Sons kPokerDesiste = Junta({Chocalho(), {kLaluz, kFechaTudo, Melodia("Play", "WAIT")}});
 const Sons kPlayerDesiste = Junta({Chocalho(), {kLaluz, kFechaTudo, Melodia("Play", "GANHEI")}});
 
-class Abertura : public BettingTest {
+class OpeningRound : public BettingTest {
  protected:
   void Jogar(const Caso& c) {
     SCOPED_TRACE(c.nome);
@@ -125,10 +125,10 @@ class Abertura : public BettingTest {
 };
 
 // A: the player ended his turn short of her stake. She moves no chip.
-TEST_F(Abertura, A1TheFirstEmptyTurnIsAWarningTheSecondASurrender) {
+TEST_F(OpeningRound, HisFirstEmptyTurnIsAWarningTheSecondASurrender) {
   JogarTodos({
-      {.nome = "A1 warning",
-       .lance = {.ab_p = 30},
+      {.nome = "first empty turn: a warning",
+       .lance = {.abertura_poker = 30},
        .roteiro = {kLinha, kLinha},
        .humor = -1,
        .falas = {{true, "EUABRI", 30}, {false, "CUBRIRAPOSTA", 30}},
@@ -137,8 +137,8 @@ TEST_F(Abertura, A1TheFirstEmptyTurnIsAWarningTheSecondASurrender) {
        .depois = 30,
        .fase = 10,
        .nivel = {30, 0, 0}},
-      {.nome = "A1 surrender",
-       .lance = {.ab_p = 30},
+      {.nome = "second empty turn: his surrender",
+       .lance = {.abertura_poker = 30},
        .roteiro = {kLinha, kLinha, kLinha},
        .humor = -1,
        .falas = {{true, "EUABRI", 30},
@@ -153,7 +153,7 @@ TEST_F(Abertura, A1TheFirstEmptyTurnIsAWarningTheSecondASurrender) {
 }
 
 // On the surrender the player's frame opens again for his turn, and closes at once.
-TEST_F(Abertura, A1SurrenderOpensThePlayersTurnBeforeClosingIt) {
+TEST_F(OpeningRound, HisSurrenderOpensHisTurnBeforeClosingIt) {
   struct Quadro : vb::Listener {
     std::vector<bool> visto;
     void Changed(vb::Control& c, vb::Prop p, int) override {
@@ -161,7 +161,7 @@ TEST_F(Abertura, A1SurrenderOpensThePlayersTurnBeforeClosingIt) {
         visto.push_back(c.Visible);
     }
   } quadro;
-  Montar({.ab_p = 30});
+  Montar({.abertura_poker = 30});
   FecharAposta();
   PassouSemCobrir = true;
   vb::Engine::Get().AddListener(&quadro);
@@ -171,9 +171,9 @@ TEST_F(Abertura, A1SurrenderOpensThePlayersTurnBeforeClosingIt) {
   EXPECT_EQ(static_cast<int>(Fase), 50);
 }
 
-TEST_F(Abertura, A2RepeatsWhatThePlayerOwes) {
-  JogarTodos({{.nome = "A2",
-               .lance = {.ab = 30, .ab_p = 50},
+TEST_F(OpeningRound, BelowHerWithChipsSheRepeatsWhatHeOwes) {
+  JogarTodos({{.nome = "below her with chips",
+               .lance = {.abertura_player = 30, .abertura_poker = 50},
                .roteiro = {kLinha, kLinha},
                .humor = -1,
                .falas = {{true, "EUAUMENTEIABRE", 20}, {false, "CUBRIRAPOSTA", 20}},
@@ -185,11 +185,11 @@ TEST_F(Abertura, A2RepeatsWhatThePlayerOwes) {
   EXPECT_FALSE(PassouSemCobrir);  // a short stake is no empty turn
 }
 
-// B1: the player opened, she had nothing on the table: "CUBRE1".
-TEST_F(Abertura, B1CoversRaisesOrGivesUp) {
-  const Lance abriu{.ab = 30, .mao = true};
+// The player opened, she had nothing on the table: "CUBRE1".
+TEST_F(OpeningRound, AgainstHisOpeningSheCoversRaisesOrGivesUp) {
+  const Lance abriu{.abertura_player = 30, .mao = true};
   JogarTodos({
-      {.nome = "B1 cover",
+      {.nome = "his opening, cover",
        .lance = abriu,
        .roteiro = {kLinha, Humor(0), kLinha},
        .humor = 0,
@@ -198,7 +198,7 @@ TEST_F(Abertura, B1CoversRaisesOrGivesUp) {
        .fim = Fim::Troca,
        .depois = 30,
        .nivel = {30, 0, 0}},
-      {.nome = "B1 raise",
+      {.nome = "his opening, raise",
        .lance = abriu,
        .roteiro = {kLinha, Humor(7), Faixa(10, 49, 20), kLinha, kLinha},
        .humor = 7,
@@ -212,8 +212,8 @@ TEST_F(Abertura, B1CoversRaisesOrGivesUp) {
        .nivel = {50, 0, 0}},
       // Her raise is cut to the 20 chips she has: 20 against 30 reads as a cover, in words
       // naming the player's stake, and the table goes on unequal.
-      {.nome = "B1 short of chips",
-       .lance = {.ab = 30, .mao = true, .pilha_p = {0, 0, 2, 0}},
+      {.nome = "his opening, short of chips",
+       .lance = {.abertura_player = 30, .mao = true, .pilha_poker = {0, 0, 2, 0}},
        .roteiro = {kLinha, Humor(7), Faixa(10, 49, 20), kLinha},
        .humor = 7,
        .falas = {{false, "ELEABRIU", 30}, {true, "EUCUBRIABRE", 30}},
@@ -221,7 +221,7 @@ TEST_F(Abertura, B1CoversRaisesOrGivesUp) {
        .fim = Fim::Troca,
        .depois = 20,
        .nivel = {20, 0, 0}},
-      {.nome = "B1 give up",
+      {.nome = "his opening, give up",
        .lance = abriu,
        .roteiro = {kLinha, Humor(1), kLinha},
        .humor = 1,
@@ -230,8 +230,8 @@ TEST_F(Abertura, B1CoversRaisesOrGivesUp) {
        .fim = Fim::PokerDesiste},
       // Chips carried from an earlier hand read as his opening, though his stake is 0: she
       // answers 0 to a stake of 0, and 0 is giving up.
-      {.nome = "B1 against carried chips",
-       .lance = {.extra = 30, .mao = true},
+      {.nome = "his opening, against carried chips",
+       .lance = {.extra_player = 30, .mao = true},
        .roteiro = {kLinha, Humor(4), kLinha},
        .humor = 4,
        .falas = {{false, "ELEABRIU", 30}, {true, "EUDESISTI"}},
@@ -241,13 +241,14 @@ TEST_F(Abertura, B1CoversRaisesOrGivesUp) {
   EXPECT_FALSE(MaoPlayer);  // the player's stake took the hand
 }
 
-// B2: the player raised over her first level: "CUBRE2".
-TEST_F(Abertura, B2CoversRaisesOrGivesUp) {
-  const Lance aumentou{.fase = 11, .ab = 30, .au = 20, .ab_p = 30};
+// The player raised over her first level: "CUBRE2".
+TEST_F(OpeningRound, AgainstHisRaiseSheCoversRaisesOrGivesUp) {
+  const Lance aumentou{
+      .fase = 11, .abertura_player = 30, .aumento_player = 20, .abertura_poker = 30};
   JogarTodos({
       // He laid 60 against her 40 in one go; her covered line names her own 20, not his 60.
-      {.nome = "B2 cover",
-       .lance = {.ab = 60, .ab_p = 40},
+      {.nome = "his raise, cover",
+       .lance = {.abertura_player = 60, .abertura_poker = 40},
        .roteiro = {Humor(0), kLinha},
        .humor = 0,
        .falas = {{false, "ELEAUMENTOUABRE", 20}, {true, "EUCUBRIABRE", 20}},
@@ -257,7 +258,7 @@ TEST_F(Abertura, B2CoversRaisesOrGivesUp) {
        .fim = Fim::Troca,
        .depois = 60,
        .nivel = {40, 20, 0}},
-      {.nome = "B2 raise",
+      {.nome = "his raise, raise",
        .lance = aumentou,
        .roteiro = {Humor(3), Faixa(5, 49, 10), kLinha, kLinha},
        .humor = 3,
@@ -271,7 +272,7 @@ TEST_F(Abertura, B2CoversRaisesOrGivesUp) {
        .depois = 60,
        .fase = 12,
        .nivel = {30, 30, 0}},
-      {.nome = "B2 give up",
+      {.nome = "his raise, give up",
        .lance = aumentou,
        .roteiro = {Humor(1), kLinha},
        .humor = 1,
@@ -282,11 +283,16 @@ TEST_F(Abertura, B2CoversRaisesOrGivesUp) {
   });
 }
 
-// B3: her third answer, "CUBRE3": she covers or gives up, never raises, and speaks first.
-TEST_F(Abertura, B3CoversOrGivesUp) {
-  const Lance terceiro{.fase = 12, .ab = 30, .au = 30, .tot = 40, .ab_p = 30, .au_p = 30};
+// Her third answer, "CUBRE3": she covers or gives up, never raises, and speaks first.
+TEST_F(OpeningRound, AgainstHisSecondRaiseSheCoversOrGivesUp) {
+  const Lance terceiro{.fase = 12,
+                       .abertura_player = 30,
+                       .aumento_player = 30,
+                       .total_player = 40,
+                       .abertura_poker = 30,
+                       .aumento_poker = 30};
   JogarTodos({
-      {.nome = "B3 cover",
+      {.nome = "his second raise, cover",
        .lance = terceiro,
        .roteiro = {Humor(4), kLinha},
        .humor = 4,
@@ -297,7 +303,7 @@ TEST_F(Abertura, B3CoversOrGivesUp) {
        .nivel = {30, 30, 40}},
       // His full house against her pair: every mood but 7 gives the excess over her levels,
       // which is 0 here, and 0 is surrender.
-      {.nome = "B3 give up",
+      {.nome = "his second raise, give up",
        .lance = terceiro,
        .roteiro = {Humor(0), kLinha},
        .humor = 0,
@@ -317,21 +323,21 @@ TEST_F(Abertura, B3CoversOrGivesUp) {
   EXPECT_EQ(FalasAteCorte()[1].apostas, 60);
 }
 
-// B4: the player raised at phase 13; she is not asked. Her stake is his chips less hers.
-TEST_F(Abertura, B4TakesThePlayersChipsLessHersUnclamped) {
+// The player raised at phase 13; she is not asked. Her stake is his chips less hers.
+TEST_F(OpeningRound, AgainstHisLastRaiseSheStakesHisChipsLessHersUnclamped) {
   const Lance quarto{.fase = 13,
-                     .ab = 100,
-                     .au = 100,
-                     .tot = 100,
-                     .ab_p = 100,
-                     .au_p = 100,
-                     .tot_p = 100,
-                     .extra = 100,
-                     .pilha = {0, 10, 5, 0},      // 100
-                     .pilha_p = {10, 10, 9, 3}};  // 300
+                     .abertura_player = 100,
+                     .aumento_player = 100,
+                     .total_player = 100,
+                     .abertura_poker = 100,
+                     .aumento_poker = 100,
+                     .total_poker = 100,
+                     .extra_player = 100,
+                     .pilha_player = {0, 10, 5, 0},   // 100
+                     .pilha_poker = {10, 10, 9, 3}};  // 300
   JogarTodos({
       // 100 - 300 = -200: she takes 200 off her side of the table into her stack.
-      {.nome = "B4 negative",
+      {.nome = "his last raise, negative",
        .lance = quarto,
        .roteiro = {kLinha},
        .humor = -1,
@@ -342,17 +348,17 @@ TEST_F(Abertura, B4TakesThePlayersChipsLessHersUnclamped) {
        .nivel = {100, 100, -200},
        .mesa_dela = 300},
       // 300 - 100 = 200, clamped to the 100 she has: all in, the table unequal.
-      {.nome = "B4 she runs short",
+      {.nome = "his last raise, she runs short",
        .lance = {.fase = 13,
-                 .ab = 100,
-                 .au = 100,
-                 .tot = 100,
-                 .ab_p = 100,
-                 .au_p = 100,
-                 .tot_p = 100,
-                 .extra = 100,
-                 .pilha = {10, 10, 9, 3},
-                 .pilha_p = {0, 0, 10, 0}},
+                 .abertura_player = 100,
+                 .aumento_player = 100,
+                 .total_player = 100,
+                 .abertura_poker = 100,
+                 .aumento_poker = 100,
+                 .total_poker = 100,
+                 .extra_player = 100,
+                 .pilha_player = {10, 10, 9, 3},
+                 .pilha_poker = {0, 0, 10, 0}},
        .roteiro = {kLinha},
        .humor = -1,
        .falas = {{false, "ELEAUMENTOUABRE", 100}, {true, "EUCUBRIABRE", 200}},
@@ -366,10 +372,10 @@ TEST_F(Abertura, B4TakesThePlayersChipsLessHersUnclamped) {
   EXPECT_EQ(MesaPote, 400);  // no side pot, nothing goes back to the player
 }
 
-// C0: both on 0, the player passed. "CUBRE1" with his stake 0 is 0: she passes too.
-TEST_F(Abertura, C0BothPassOrSheOpens) {
+// Both on 0, the player passed. "CUBRE1" with his stake 0 is 0: she passes too.
+TEST_F(OpeningRound, AfterHisPassSheOpensOrBothPass) {
   JogarTodos({
-      {.nome = "C0 both pass",
+      {.nome = "his pass, both pass",
        .lance = {.mao = true},
        .roteiro = {kLinha, Humor(5), kLinha, kLinha},
        .humor = 5,
@@ -378,8 +384,9 @@ TEST_F(Abertura, C0BothPassOrSheOpens) {
        .fim = Fim::Passam},
       // A stake that moved no chip (all in under the limit with a short stack) leaves the
       // table at 0: the round reads it as a pass, and she opens against it.
-      {.nome = "C0 she opens",
-       .lance = {.ab = 40, .extra = -40, .mao = true, .pilha = {0, 0, 4, 0}},
+      {.nome = "his pass, she opens",
+       .lance =
+           {.abertura_player = 40, .extra_player = -40, .mao = true, .pilha_player = {0, 0, 4, 0}},
        .roteiro = {kLinha, Humor(0), kLinha, kLinha},
        .humor = 0,
        .falas = {{false, "ELEPASSOU"}, {true, "EUABRI", 40}, {false, "CUBRIRAPOSTA", 40}},
@@ -391,16 +398,16 @@ TEST_F(Abertura, C0BothPassOrSheOpens) {
   });
 }
 
-// C1: level after her third level: straight to the exchange.
-TEST_F(Abertura, C1GoesToTheExchange) {
-  JogarTodos({{.nome = "C1",
+// Level after her third level: straight to the exchange.
+TEST_F(OpeningRound, HisCoverOfHerLastLevelGoesToTheExchange) {
+  JogarTodos({{.nome = "his cover of her last level",
                .lance = {.fase = 12,
-                         .ab = 30,
-                         .au = 20,
-                         .tot = 40,
-                         .ab_p = 30,
-                         .au_p = 20,
-                         .tot_p = 40,
+                         .abertura_player = 30,
+                         .aumento_player = 20,
+                         .total_player = 40,
+                         .abertura_poker = 30,
+                         .aumento_poker = 20,
+                         .total_poker = 40,
                          .mao = true},
                .roteiro = {},
                .humor = -1,
@@ -412,14 +419,24 @@ TEST_F(Abertura, C1GoesToTheExchange) {
   EXPECT_TRUE(PokerJaTrocou);  // she held the hand and drew first
 }
 
-// C2: level after her second level: "CUBRE3" on the analysis of her last question.
-TEST_F(Abertura, C2RaisesOrStaysWithoutAFreshAnalysis) {
-  const Lance raise{.fase = 11, .ab = 30, .au = 20, .ab_p = 30, .au_p = 20, .mao = true};
-  const Lance coberto{
-      .fase = 12, .ab = 30, .au = 20, .tot = 10, .ab_p = 30, .au_p = 30, .mao = true};
+// Level after her second level: "CUBRE3" on the analysis of her last question.
+TEST_F(OpeningRound, HisCoverOfHerRaiseLetsHerRaiseOnceMoreWithoutAFreshLook) {
+  const Lance raise{.fase = 11,
+                    .abertura_player = 30,
+                    .aumento_player = 20,
+                    .abertura_poker = 30,
+                    .aumento_poker = 20,
+                    .mao = true};
+  const Lance coberto{.fase = 12,
+                      .abertura_player = 30,
+                      .aumento_player = 20,
+                      .total_player = 10,
+                      .abertura_poker = 30,
+                      .aumento_poker = 30,
+                      .mao = true};
   const std::vector<Caso> casos = {
       // He covered her raise with a third level: 0 in every mood, she stays.
-      {.nome = "C2 stays",
+      {.nome = "his cover of her raise, stays",
        .lance = coberto,
        .roteiro = {Humor(2)},
        .humor = 2,
@@ -429,7 +446,7 @@ TEST_F(Abertura, C2RaisesOrStaysWithoutAFreshAnalysis) {
        .depois = 60,
        .nivel = {30, 30, 0}},
       // Covered within his second level: the same key twice, her stake then the difference.
-      {.nome = "C2 raise",
+      {.nome = "his cover of her raise, raise",
        .lance = raise,
        .roteiro = {Humor(2), Faixa(10, 49, 30), kLinha, kLinha, kLinha},
        .humor = 2,
@@ -442,7 +459,7 @@ TEST_F(Abertura, C2RaisesOrStaysWithoutAFreshAnalysis) {
        .depois = 80,
        .fase = 12,
        .nivel = {30, 20, 30}},
-      {.nome = "C2 stays in a quiet mood",
+      {.nome = "his cover of her raise, stays in a quiet mood",
        .lance = raise,
        .roteiro = {Humor(3)},
        .humor = 3,
@@ -453,7 +470,7 @@ TEST_F(Abertura, C2RaisesOrStaysWithoutAFreshAnalysis) {
        .nivel = {30, 20, 0}},
   };
   for (Caso c : casos) {
-    // A stale analysis, as her last question left it: C2 must not look again.
+    // A stale analysis, as her last question left it: she must not look again.
     c.jogo_velho = "ZZ";
     Jogar(c);
     if (c.fim == Fim::Player) {
@@ -464,12 +481,12 @@ TEST_F(Abertura, C2RaisesOrStaysWithoutAFreshAnalysis) {
   }
 }
 
-// C3: level at her first level (or a replayed tie): "CUBRE2"; 0 is surrender though she owes
+// Level at her first level (or a replayed tie): "CUBRE2"; 0 is surrender though she owes
 // nothing.
-TEST_F(Abertura, C3RaisesOrGivesUpThoughLevel) {
+TEST_F(OpeningRound, HisCoverOfHerOpeningLetsHerRaiseOrGiveUpThoughLevel) {
   JogarTodos({
-      {.nome = "C3 raise",
-       .lance = {.ab = 30, .ab_p = 30},
+      {.nome = "his cover of her opening, raise",
+       .lance = {.abertura_player = 30, .abertura_poker = 30},
        .roteiro = {Humor(2), Faixa(10, 49, 20), kLinha, kLinha},
        .humor = 2,
        .falas = {{false, "ELECUBRIUABRE", 0},
@@ -482,8 +499,8 @@ TEST_F(Abertura, C3RaisesOrGivesUpThoughLevel) {
        .depois = 50,
        .fase = 11,
        .nivel = {30, 20, 0}},
-      {.nome = "C3 give up",
-       .lance = {.ab = 30, .ab_p = 30},
+      {.nome = "his cover of her opening, give up",
+       .lance = {.abertura_player = 30, .abertura_poker = 30},
        .roteiro = {Humor(3), kLinha},
        .humor = 3,
        .falas = {{false, "ELECUBRIUABRE", 0}, {true, "EUDESISTI"}},
@@ -491,8 +508,8 @@ TEST_F(Abertura, C3RaisesOrGivesUpThoughLevel) {
        .fim = Fim::PokerDesiste,
        .nivel = {30, 0, 0}},
       // Level with chips carried from an earlier hand: the line names her first level less his.
-      {.nome = "C3 with carried chips",
-       .lance = {.ab = 30, .ab_p = 40, .extra = 10},
+      {.nome = "his cover of her opening, with carried chips",
+       .lance = {.abertura_player = 30, .abertura_poker = 40, .extra_player = 10},
        .roteiro = {Humor(0), kLinha},
        .humor = 0,
        .falas = {{false, "ELECUBRIUABRE", 10}, {true, "EUDESISTI"}},
@@ -504,9 +521,9 @@ TEST_F(Abertura, C3RaisesOrGivesUpThoughLevel) {
 
 // On entry, with no more to stake (the player has no chips and is not above her), she goes to
 // the exchange without a word.
-TEST_F(Abertura, NoMoreStakesGoStraightToTheExchange) {
+TEST_F(OpeningRound, NoMoreStakesGoStraightToTheExchange) {
   JogarTodos({{.nome = "no more stakes",
-               .lance = {.ab_p = 30, .mao = true, .pilha = {0, 0, 0, 0}},
+               .lance = {.abertura_poker = 30, .mao = true, .pilha_player = {0, 0, 0, 0}},
                .roteiro = {},
                .humor = -1,
                .falas = {},
@@ -517,13 +534,13 @@ TEST_F(Abertura, NoMoreStakesGoStraightToTheExchange) {
 }
 
 // The replay of a tied showdown: no ante, all stake levels 0, her chips level with his. She
-// enters C3 with the amount 0 and either raises or gives up; with nothing more to stake she goes
-// straight to the exchange.
-TEST_F(Abertura, TheReplayOfATieEntersC3WithAmountZero) {
+// is a level table with the amount 0 and either raises or gives up; with nothing more to stake she
+// goes straight to the exchange.
+TEST_F(OpeningRound, TheReplayOfATieIsALevelTableSheRaisesOrGivesUp) {
   for (int humor : {3, 2}) {
     SCOPED_TRACE(humor);
     Fresh();
-    Montar({.fase = 50, .extra = 100, .extra_p = 100, .pingo = 3});
+    Montar({.fase = 50, .extra_player = 100, .extra_poker = 100, .pingo = 3});
     JogoEmpatado = true;
     MostrarFim("Incrível", "empate");
     const int player = FichasPlayer, poker = FichasPoker, mao = NroMao;
@@ -558,7 +575,11 @@ TEST_F(Abertura, TheReplayOfATieEntersC3WithAmountZero) {
 
   // All in before the tie: nothing more to stake, so no word and straight to the exchange.
   Fresh();
-  Montar({.fase = 50, .extra = 100, .extra_p = 100, .pingo = 3, .pilha = {0, 0, 0, 0}});
+  Montar({.fase = 50,
+          .extra_player = 100,
+          .extra_poker = 100,
+          .pingo = 3,
+          .pilha_player = {0, 0, 0, 0}});
   JogoEmpatado = true;
   MostrarFim("Incrível", "empate");
   Gravar();
@@ -571,8 +592,8 @@ TEST_F(Abertura, TheReplayOfATieEntersC3WithAmountZero) {
 
 // One empty turn against her stake in one hand, one more in a later hand: the second is taken as
 // surrender at once, since nothing resets the warning.
-TEST_F(Abertura, TheWarningOfAnEmptyTurnOutlivesTheHand) {
-  Montar({.ab_p = 30, .mao = true});
+TEST_F(OpeningRound, TheWarningOfAnEmptyTurnOutlivesTheHand) {
+  Montar({.abertura_poker = 30, .mao = true});
   vb::ScriptRnd({kLinha, kLinha});
   ASSERT_TRUE(Click("CmdAcabei", 0));
   EXPECT_TRUE(PassouSemCobrir);
@@ -589,7 +610,7 @@ TEST_F(Abertura, TheWarningOfAnEmptyTurnOutlivesTheHand) {
   ASSERT_TRUE(PassouSemCobrir);
 
   // Later, she stakes and he ends his turn empty once more.
-  Montar({.ab_p = 40, .mao = true});
+  Montar({.abertura_poker = 40, .mao = true});
   F().FraApostaPlayer.Visible = true;
   F().FraApostaPlayer.Enabled = true;
   const int poker = FichasPoker;
@@ -607,8 +628,14 @@ TEST_F(Abertura, TheWarningOfAnEmptyTurnOutlivesTheHand) {
 
 // Whole opening rounds from a fresh start: the generator state is found by trying states until
 // the first hand takes the wanted road, and the round is then checked where it ended.
-class RodadaAbertura : public BettingTest {
+class WholeOpeningRound : public BettingTest {
  protected:
+  // The settings of every fresh start, applied as the menu would.
+  void (*ajustes)() = nullptr;
+  void Watch() override {
+    BettingTest::Watch();
+    g_ajustes_iniciais = ajustes;
+  }
   // Tries generator states from 1 until `jogada` (played on a fresh start) says yes; the table
   // is left as that play ended.
   std::uint64_t Semear(const std::function<bool()>& jogada) {
@@ -645,7 +672,7 @@ class RodadaAbertura : public BettingTest {
 };
 
 // She opens; he ends his turn with nothing, and is warned; then he covers.
-TEST_F(RodadaAbertura, HerOpeningAndThePlayersPass) {
+TEST_F(WholeOpeningRound, HerOpeningAndThePlayersPass) {
   int x = 0;
   const auto s = Semear([&] {
     x = MesaApostas;
@@ -672,7 +699,7 @@ TEST_F(RodadaAbertura, HerOpeningAndThePlayersPass) {
 
 // She passes; he passes: nobody plays the hand, no chip moves, and the ante waits for the next
 // hand, where his ante joins it.
-TEST_F(RodadaAbertura, HerPassAndThePlayersPassVoidTheHand) {
+TEST_F(WholeOpeningRound, HerPassAndThePlayersPassVoidTheHand) {
   const auto s = Semear([&] { return MesaApostas == 0 && Click("CmdAcabei", 0); });
   SCOPED_TRACE(s);
   EXPECT_EQ(static_cast<int>(Fase), 50);
@@ -690,8 +717,8 @@ TEST_F(RodadaAbertura, HerPassAndThePlayersPassVoidTheHand) {
 
 // With a short stack under the limit his all-in moves no chip: the table reads a pass, and she
 // opens against it.
-TEST_F(RodadaAbertura, AStakeThatMovedNothingAndHerOpening) {
-  g_ajustes_iniciais = [] {
+TEST_F(WholeOpeningRound, AStakeThatMovedNothingAndHerOpening) {
+  ajustes = [] {
     NroFichas = 100;
     LimiteFichas = 150;
   };
@@ -717,7 +744,7 @@ TEST_F(RodadaAbertura, AStakeThatMovedNothingAndHerOpening) {
 }
 
 // She opens, he raises by 20: she raises back, or gives up.
-TEST_F(RodadaAbertura, APlayersRaiseAndHerRaiseBack) {
+TEST_F(WholeOpeningRound, APlayersRaiseAndHerRaiseBack) {
   int x = 0;
   const auto s = Semear([&] {
     x = MesaApostas;
@@ -745,7 +772,7 @@ TEST_F(RodadaAbertura, APlayersRaiseAndHerRaiseBack) {
   EXPECT_TRUE(PokerJaTrocou);
 }
 
-TEST_F(RodadaAbertura, HerGivingUp) {
+TEST_F(WholeOpeningRound, HerGivingUp) {
   int x = 0;
   const auto s = Semear([&] {
     x = MesaApostas;
@@ -762,7 +789,7 @@ TEST_F(RodadaAbertura, HerGivingUp) {
 }
 
 // She opens, he ends two turns empty: the second is his surrender.
-TEST_F(RodadaAbertura, ThePlayerGivingUp) {
+TEST_F(WholeOpeningRound, ThePlayerGivingUp) {
   const auto s = Semear([&] { return MesaApostas > 0 && Click("CmdAcabei", 0); });
   SCOPED_TRACE(s);
   ASSERT_TRUE(Click("CmdAcabei", 0));

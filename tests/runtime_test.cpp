@@ -5,7 +5,6 @@
 #include <array>
 #include <cmath>
 
-#include "core/game_state.h"
 #include "platform/rnd.h"
 #include "platform/settings.h"
 
@@ -130,30 +129,6 @@ TEST(Runtime, SixteenBitVariablesOverflow) {
   EXPECT_EQ(static_cast<int>(k), -32768);
   std::int32_t wide = static_cast<std::int32_t>(vb::Integer(30000)) + 3000;  // reads widen
   EXPECT_EQ(wide, 33000);
-}
-
-TEST(GameState, ResetPutsEveryVariableBack) {
-  NroCartas = 20;
-  Fase = 30;
-  Baralho[3] = "AC";
-  PassouSemCobrir = true;
-  MesaPingo = 12;
-  ResetGameState();
-  EXPECT_EQ(NroCartas, 0);
-  EXPECT_EQ(Fase.Text(), "");
-  EXPECT_EQ(static_cast<int>(Fase), 0);  // blank reads as 0
-  EXPECT_EQ(Baralho[3], "");
-  EXPECT_FALSE(PassouSemCobrir);
-  EXPECT_EQ(static_cast<int>(MesaPingo), 0);
-}
-
-TEST(GameState, FaseIsATwoCharacterText) {
-  ResetGameState();
-  Fase = 0;
-  EXPECT_EQ(Fase.Text(), "0 ");
-  Fase = 31;
-  EXPECT_EQ(Fase.Text(), "31");
-  EXPECT_TRUE(Fase >= 30 && Fase < 40);
 }
 
 TEST(Settings, MemoryStoreReadsEmptyForMissing) {

@@ -14,6 +14,7 @@
 #include "core/cards.h"
 #include "core/deck.h"
 #include "game_fixture.h"
+#include "support.h"
 #include "table/cards.h"
 
 namespace {
@@ -21,11 +22,6 @@ namespace {
 // With these generator states she opens the first hand (0) or passes it (9).
 constexpr std::uint64_t kEstadoAbre = 0;
 constexpr std::uint64_t kEstadoPassa = 9;
-
-// The draw that gives mood m to the next Desicion.
-float Humor(int m) {
-  return (m + 0.5f) / 9;
-}
 
 std::vector<std::string> g_falas_dela;  // her balloon's second lines, in order
 std::vector<std::string> g_falas_dele;
@@ -53,16 +49,9 @@ std::string Codigo(const std::string& trabalho) {
   return std::string(1, rank) + trabalho[2];
 }
 
-class Troca : public GameTest, public vb::Listener {
+class Exchange : public GameTest, public vb::Listener {
  protected:
-  void SetUp() override {
-    GameTest::SetUp();
-    g_depois_da_fala = GuardarFala;
-  }
-  void TearDown() override {
-    g_depois_da_fala = nullptr;
-    GameTest::TearDown();
-  }
+  void Watch() override { g_depois_da_fala = GuardarFala; }
 
   void Comecar(std::uint64_t estado) {
     Fresh(estado);
@@ -137,7 +126,7 @@ class Troca : public GameTest, public vb::Listener {
 
 // He covers her opening, so she draws first. Her pair of nines would have her throw three, but
 // she sees the king of clubs on top of the deck: she keeps her four clubs and takes one card.
-TEST_F(Troca, SheDrawsFirstAndKeepsFourForTheFlushSheSaw) {
+TEST_F(Exchange, SheDrawsFirstAndKeepsFourForTheFlushSheSaw) {
   Comecar(kEstadoAbre);
   ASSERT_TRUE(MaoPlayer);
   Mesa({"9C", "9D", "7C", "4C", "2C"}, {"AD", "KD", "QP", "8T", "6P"},
@@ -186,9 +175,12 @@ TEST_F(Troca, SheDrawsFirstAndKeepsFourForTheFlushSheSaw) {
   EXPECT_FALSE(Borda(3));
   EXPECT_EQ(static_cast<int>(MarcadasTroca), 2);
   for (int i = 0; i <= 4; ++i) EXPECT_EQ(Marcada(i), i >= 3) << i;
-  // The clicked buttons are drawn pressed, and nothing comes to release them.
-  EXPECT_EQ(F().ToolbarPlayer.Button(8).Value(), 1);
+  // The pressed buttons come up again at the next tick of the key spring.
   EXPECT_EQ(F().ToolbarPlayer.Button(10).Value(), 1);
+  EXPECT_TRUE(F().TimerKeyPot.Enabled);
+  host->RunFor(100);
+  EXPECT_EQ(F().ToolbarPlayer.Button(8).Value(), 0);
+  EXPECT_EQ(F().ToolbarPlayer.Button(10).Value(), 0);
   EXPECT_FALSE(F().TimerKeyPot.Enabled);
 
   // He draws after her, from place 10 + her count of three: places 12 and 13 are skipped.
@@ -201,8 +193,6 @@ TEST_F(Troca, SheDrawsFirstAndKeepsFourForTheFlushSheSaw) {
                       "Eu Vou ter que pedir 2 Cartinhas do Baralho"),
             g_falas_dele.end());
   for (int i = 0; i <= 4; ++i) EXPECT_FALSE(Marcada(i)) << i;
-  EXPECT_EQ(F().ToolbarPlayer.Button(8).Value(), 1);
-  EXPECT_EQ(F().ToolbarPlayer.Button(10).Value(), 1);
   // She drew once only; the round of final bets has begun.
   EXPECT_EQ(Mao(CartasPoker), (std::vector<std::string>{"KC", "9C", "7C", "4C", "2C"}));
   EXPECT_GE(static_cast<int>(Fase), 30);
@@ -211,7 +201,7 @@ TEST_F(Troca, SheDrawsFirstAndKeepsFourForTheFlushSheSaw) {
 
 // She passed, so he holds the hand and draws first: all five with MaxTroca 5, from places 11 to
 // 15, and her cards start at place 16, where she has seen three deuces.
-TEST_F(Troca, HeDrawsFiveFirstAndHerCardsStartAtPlace16) {
+TEST_F(Exchange, HeDrawsFiveFirstAndHerCardsStartAtPlace16) {
   Comecar(kEstadoPassa);
   ASSERT_FALSE(MaoPlayer);
   MaxTroca = 5;
@@ -249,7 +239,7 @@ TEST_F(Troca, HeDrawsFiveFirstAndHerCardsStartAtPlace16) {
 }
 
 // "CAR" gives 0: she stands pat, says so, and every deck place stays for him.
-TEST_F(Troca, StandingPatNoCardMovesAndTheDeckStaysForHim) {
+TEST_F(Exchange, StandingPatNoCardMovesAndTheDeckStaysForHim) {
   Comecar(kEstadoAbre);
   Mesa({"9C", "9D", "7C", "4C", "2C"}, {"AD", "KD", "QP", "8T", "6P"},
        {"KC", "5D", "3T", "QD", "JP"});
@@ -272,7 +262,7 @@ TEST_F(Troca, StandingPatNoCardMovesAndTheDeckStaysForHim) {
 
 // MaxTroca 1: a second mark is refused, by card or by toolbar button, and each click is heard.
 // He takes place 11, she place 12.
-TEST_F(Troca, WithMaxTroca1ASecondMarkIsUndone) {
+TEST_F(Exchange, WithMaxTroca1ASecondMarkIsUndone) {
   Comecar(kEstadoPassa);
   MaxTroca = 1;
   Mesa({"9C", "9D", "7C", "4C", "2C"}, {"AD", "KD", "QP", "8T", "6P"}, {"AT", "KC", "5D"});
@@ -306,7 +296,7 @@ TEST_F(Troca, WithMaxTroca1ASecondMarkIsUndone) {
 }
 
 // The mark count starts again with each exchange: the marks of one hand don't eat into the next.
-TEST_F(Troca, MarksAreCountedAfreshInTheNextHand) {
+TEST_F(Exchange, MarksAreCountedAfreshInTheNextHand) {
   Comecar(kEstadoPassa);
   MaxTroca = 2;
   EntrarTroca();
@@ -333,7 +323,7 @@ TEST_F(Troca, MarksAreCountedAfreshInTheNextHand) {
 
 // Over many random deals, deck sizes, house rules, counts and orders: after her exchange every
 // card of her plan is in her hand, and what she took is the run of deck places from her first.
-TEST_F(Troca, SheDrawsExactlyWhatSheSaw) {
+TEST_F(Exchange, SheDrawsExactlyWhatSheSaw) {
   Comecar(kEstadoAbre);
   std::mt19937 gen(20240611);
   auto sorte = [&](int a, int b) { return std::uniform_int_distribution<int>(a, b)(gen); };

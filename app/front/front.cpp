@@ -1,18 +1,22 @@
 #include "front/front.h"
 
 #include <QAccessible>
-#include <QAccessibleWidget>
 #include <QApplication>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
+#include "front/accessible.h"
 #include "front/guard.h"
+#include "front/menus.h"
 #include "front/names.h"
+#include "front/scaling.h"
 
 namespace front {
 namespace {
@@ -20,32 +24,16 @@ namespace {
 // The old window's frame round its client area: the form's size counts it, ours does not.
 constexpr int kChromeWidth = 8;
 constexpr int kChromeHeight = 34;
+// A window manager's frame, as far as we can tell before the window is first shown.
+const QMargins kFrame(4, 30, 4, 4);
 
-// A picture the player acts on reads as a button to a screen reader, and can be pressed by one.
-class PictureAccessible : public QAccessibleWidget {
- public:
-  explicit PictureAccessible(PictureWidget* w)
-      : QAccessibleWidget(w,
-                          Actionable(w->control()) ? QAccessible::Button : QAccessible::Graphic) {}
-  QStringList actionNames() const override {
-    QStringList names = QAccessibleWidget::actionNames();
-    if (role() == QAccessible::Button) names.prepend(pressAction());
-    return names;
-  }
-  void doAction(const QString& name) override {
-    if (name == pressAction() && role() == QAccessible::Button) {
-      static_cast<PictureWidget*>(widget())->Press();
-      return;
-    }
-    QAccessibleWidget::doAction(name);
-  }
-  static bool Actionable(const vb::Control& c) { return c.Click || c.MouseDown || c.TabIndex >= 0; }
-};
-
-QAccessibleInterface* AccessibleFactory(const QString& class_name, QObject* object) {
-  if (class_name == QLatin1String("front::PictureWidget"))
-    return new PictureAccessible(static_cast<PictureWidget*>(object));
-  return nullptr;
+// A reader hears the new text of a live control; any other name change is just noted.
+void Announce(QWidget* w, bool live = true) {
+  QAccessibleEvent changed(w, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&changed);
+  if (!live) return;
+  QAccessibleEvent alert(w, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
 }
 
 int ShiftOf(Qt::KeyboardModifiers m) {
@@ -123,11 +111,7 @@ void PictureWidget::Press() {
 }
 
 Front::Front() {
-  static bool factory = false;
-  if (!factory) {
-    QAccessible::installFactory(AccessibleFactory);
-    factory = true;
-  }
+  InstallAccessibility([this](const QObject* o) { return controls_.value(o); });
   vb::Engine::Get().AddListener(this);
   qApp->installEventFilter(this);
 }
@@ -135,7 +119,11 @@ Front::Front() {
 Front::~Front() {
   qApp->removeEventFilter(this);
   vb::Engine::Get().RemoveListener(this);
-  for (FormWindow* w : std::as_const(windows_)) delete w;
+  InstallAccessibility(nullptr);
+  // Dialogs go with the table's window, their parent.
+  QList<QPointer<FormWindow>> all;
+  for (FormWindow* w : std::as_const(windows_)) all << w;
+  for (const QPointer<FormWindow>& w : all) delete w.data();
 }
 
 QWidget* Front::WidgetOf(const vb::Control& control) const {
@@ -157,14 +145,49 @@ ToolbarButtonWidget* Front::ButtonOf(const vb::Control& toolbar, int index) cons
 // --- building ----------------------------------------------------------------------------------
 
 FormWindow* Front::Build(vb::Form& form) {
-  auto* win =
-      new FormWindow(form, [this, &form] { Deliver(InputOn(vb::Input::Type::Close, form)); });
+  // A dialog belongs to the table's window: it stays above it and is centred on it.
+  FormWindow* owner = nullptr;
+  if (vb::Form* main = vb::Engine::Get().MainForm(); main && main != &form)
+    owner = windows_.value(main);
+  auto* win = new FormWindow(
+      form, owner, [this, &form] { Deliver(InputOn(vb::Input::Type::Close, form)); },
+      [this, &form] { Rescale(form); });
   widgets_[&form] = win;
   controls_[win] = &form;
   windows_[&form] = win;
   BuildMissing(form);
   ApplyAll(form);
+  // The table opens as large as sits comfortably on its screen; a dialog at the table's scale.
+  if (form.is_main) {
+    if (QScreen* screen = ScreenFor(nullptr))
+      win->SetScale(OpeningScale(win->base(), screen->availableGeometry(), kFrame));
+  } else if (owner) {
+    win->SetScale(owner->scale());
+  }
   return win;
+}
+
+QScreen* Front::ScreenFor(const QWidget* over) const {
+  if (over && over->isVisible() && over->screen()) return over->screen();
+  if (QScreen* s = QGuiApplication::screenAt(QCursor::pos())) return s;
+  return QGuiApplication::primaryScreen();
+}
+
+void Front::Rescale(vb::Form& form) {
+  FormWindow* win = windows_.value(&form);
+  if (!win) return;
+  for (const auto& c : form.controls()) {
+    QWidget* w = widgets_.value(c.get());
+    if (!w) continue;
+    ApplyLook(*c, w);
+    Apply(*c, vb::Prop::Geometry, 0);
+    if (auto* bar = qobject_cast<ToolbarWidget*>(w)) bar->Layout();
+  }
+  win->update();
+  // The dialogs follow the table.
+  if (form.is_main)
+    for (FormWindow* other : std::as_const(windows_))
+      if (other != win) other->SetScale(win->scale());
 }
 
 void Front::BuildMissing(vb::Form& form) {
@@ -174,7 +197,7 @@ void Front::BuildMissing(vb::Form& form) {
   for (const auto& up : form.controls()) {
     vb::Control& c = *up;
     if (widgets_.contains(&c)) continue;
-    QWidget* parent = c.parent() ? widgets_.value(c.parent()) : win;
+    QWidget* parent = c.parent() ? widgets_.value(c.parent()) : win->stage();
     if (!parent) continue;
     if (Create(c, parent)) made.push_back(&c);
   }
@@ -191,6 +214,10 @@ QWidget* Front::Create(vb::Control& c, QWidget* parent) {
       break;
     case vb::Kind::Label: {
       auto* label = new QLabel(parent);
+      // A label hidden from readers keeps its changes to itself: a label with a name of its own
+      // tells no reader when its text changes (the music clock's line changes ten times a
+      // second). What readers hear comes from the game, never from this name.
+      if (c.accessible.hidden) label->setAccessibleName(QStringLiteral("-"));
       label->setTextFormat(Qt::PlainText);
       label->setWordWrap(true);
       label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -312,9 +339,12 @@ void Front::Apply(vb::Control& c, vb::Prop prop, int sub) {
         w->setWindowTitle(QString::fromStdString(c.Caption));
         break;
       case vb::Prop::Geometry:
-        if (c.Width > 0 && c.Height > 0)
-          w->setFixedSize(std::max(1, Px(c.Width) - kChromeWidth),
-                          std::max(1, Px(c.Height) - kChromeHeight));
+        if (c.Width > 0 && c.Height > 0) {
+          auto* win = static_cast<FormWindow*>(w);
+          win->SetBase(QSize(std::max(1, Px(c.Width, 1.0) - kChromeWidth),
+                             std::max(1, Px(c.Height, 1.0) - kChromeHeight)));
+          if (win->isVisible()) KeepOnScreen(*win);
+        }
         break;
       case vb::Prop::Enabled:
         w->setEnabled(c.Enabled);
@@ -336,7 +366,7 @@ void Front::Apply(vb::Control& c, vb::Prop prop, int sub) {
       } else if (auto* button = qobject_cast<QPushButton*>(w)) {
         button->setText(QString::fromStdString(c.Caption));
       }
-      w->setAccessibleName(AccessibleName(c));
+      if (c.accessible.live) Announce(w);
       w->update();
       break;
     case vb::Prop::Visible:
@@ -346,15 +376,18 @@ void Front::Apply(vb::Control& c, vb::Prop prop, int sub) {
       w->setEnabled(c.Enabled);
       break;
     case vb::Prop::Geometry: {
+      const double scale = ScaleOf(w);
       const bool line = c.kind() == vb::Kind::Line;
-      const int thick = std::max(1, c.BorderWidth);
-      w->setGeometry(Px(c.Left), Px(c.Top), std::max(line ? thick : 0, Px(c.Width)),
-                     std::max(line ? thick : 0, Px(c.Height)));
+      const int thick = std::max(1, Px(15 * c.BorderWidth, scale));
+      const Span x = Scaled(c.Left, c.Width, scale);
+      const Span y = Scaled(c.Top, c.Height, scale);
+      w->setGeometry(x.start, y.start, std::max(line ? thick : 0, x.length),
+                     std::max(line ? thick : 0, y.length));
       break;
     }
     case vb::Prop::Picture:
-      w->setAccessibleName(AccessibleName(c));
-      w->setAccessibleDescription(QString::fromStdString(c.Picture));
+    case vb::Prop::Tag:
+      if (c.accessible.namer) Announce(w, false);
       w->update();
       break;
     case vb::Prop::Text:
@@ -386,7 +419,9 @@ void Front::Apply(vb::Control& c, vb::Prop prop, int sub) {
 // Colours and fonts are plain fields of the model: they are read again with every change of the
 // control, and applied when they differ from what the widget has.
 void Front::ApplyLook(vb::Control& c, QWidget* w) {
-  const QString look = QStringLiteral("%1|%2|%3|%4|%5|%6")
+  const double scale = ScaleOf(w);
+  const QString look = QStringLiteral("%1|%2|%3|%4|%5|%6|%7")
+                           .arg(scale)
                            .arg(c.BackColor)
                            .arg(c.ForeColor)
                            .arg(c.HasBackColor)
@@ -395,7 +430,11 @@ void Front::ApplyLook(vb::Control& c, QWidget* w) {
                            .arg(c.font.bold);
   if (w->property("pokerzeva_look").toString() == look) return;
   w->setProperty("pokerzeva_look", look);
-  if (c.kind() != vb::Kind::Form) w->setFont(FontOf(c.font));
+  if (c.kind() != vb::Kind::Form) w->setFont(FontOf(c.font, scale));
+  // A frame with a colour of its own hides what lies beneath it: Qt then leaves out the
+  // repainting of what it covers (the music clock's line under the table, redrawn at each tick).
+  if (c.kind() == vb::Kind::Frame || c.kind() == vb::Kind::PictureBox)
+    w->setAttribute(Qt::WA_OpaquePaintEvent, c.HasBackColor);
   switch (c.kind()) {
     case vb::Kind::Label:
     case vb::Kind::TextBox: {
@@ -411,15 +450,24 @@ void Front::ApplyLook(vb::Control& c, QWidget* w) {
     }
     case vb::Kind::CommandButton: {
       // The raised face of the old buttons, in the button's own colour.
+      // The focus is the raised face drawn thick and dark, with the caption underlined by the
+      // same yellow as the focus bars round the chip places and the cards.
       const QString back = c.HasBackColor ? Hex(c.BackColor) : QStringLiteral("#d4d0c8");
+      const int edge = std::max(1, Px(15, scale));
+      const int focus = std::max(2, Px(45, scale));
       w->setStyleSheet(
-          QStringLiteral("QPushButton{background-color:%1;color:%2;padding:0px;border:1px solid;"
+          QStringLiteral("QPushButton{background-color:%1;color:%2;padding:0px;border:%3px solid;"
                          "border-color:#ffffff #404040 #404040 #ffffff;}"
-                         "QPushButton:focus{border-color:#000000;}"
+                         "QPushButton:focus{border:%4px solid #000000;"
+                         "background-color:qlineargradient(x1:0,y1:0,x2:0,y2:1,stop:0 %1,"
+                         "stop:0.8 %1,stop:0.81 #ffff00,stop:1 #ffff00);}"
                          "QPushButton:pressed{border-color:#404040 #ffffff #ffffff #404040;"
-                         "padding-left:2px;padding-top:2px;}"
+                         "padding-left:%5px;padding-top:%5px;}"
                          "QPushButton:disabled{color:#808080;}")
-              .arg(back, Hex(c.ForeColor)));
+              .arg(back, Hex(c.ForeColor))
+              .arg(edge)
+              .arg(focus)
+              .arg(2 * edge));
       break;
     }
     default:
@@ -433,24 +481,22 @@ void Front::ApplyLook(vb::Control& c, QWidget* w) {
 void Front::ShowOrHide(vb::Form& form) {
   FormWindow* win = windows_.value(&form);
   const bool want = form.Loaded() && form.Visible;
-  const Qt::WindowModality modality = form.modal ? Qt::ApplicationModal : Qt::NonModal;
   if (!want) {
     win->hide();
     return;
   }
-  if (win->isVisible() && win->windowModality() == modality) return;
-  win->hide();
-  win->setWindowModality(modality);
-  if (!form.is_main) {
-    vb::Form* main = vb::Engine::Get().MainForm();
-    if (FormWindow* owner = main ? windows_.value(main) : nullptr; owner && owner->isVisible()) {
-      win->winId();
-      win->windowHandle()->setTransientParent(owner->windowHandle());
-    }
-  }
-  if (!win->placed) Place(*win);
+  // The game keeps a modal form's hold on input itself; to the desktop every window stays free,
+  // so that the table's close box is heard while a dialog or the shuffle is up.
+  if (win->isVisible()) return;
+  if (!form.is_main || !win->placed) Place(*win);
   win->show();
   win->activateWindow();
+  // Once more when the queue is served: a menu that just closed hands the focus back to the
+  // table, and a dialog opened from it must keep the keys.
+  if (!form.is_main)
+    QTimer::singleShot(0, win, [win] {
+      if (win->isVisible()) win->activateWindow();
+    });
   if (vb::Control* active = form.ActiveControl())
     if (QWidget* w = widgets_.value(active)) w->setFocus(Qt::ActiveWindowFocusReason);
 }
@@ -458,20 +504,36 @@ void Front::ShowOrHide(vb::Form& form) {
 void Front::Place(FormWindow& win) {
   win.placed = true;
   const vb::Form& form = win.form();
+  QScreen* screen = ScreenFor(win.parentWidget());
+  const QRect available = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+  const QSize outer = win.size().grownBy(kFrame);
   if (form.Left != 0 || form.Top != 0) {
-    win.move(Px(form.Left), Px(form.Top));
+    const QPoint at(Px(form.Left, win.scale()), Px(form.Top, win.scale()));
+    const QRect r = PlaceWithin(outer, QRect(at, outer), available);
+    win.move(r.topLeft());
     return;
   }
-  // Centred on the main window for a dialog, else on the screen.
-  QRect over;
-  vb::Form* main = vb::Engine::Get().MainForm();
-  if (FormWindow* owner = main && main != &form ? windows_.value(main) : nullptr;
-      owner && owner->isVisible()) {
+  // A dialog centred on the table; the table centred on its screen; either kept on the screen.
+  QRect over = available;
+  if (QWidget* owner = win.parentWidget(); owner && owner->isVisible())
     over = owner->frameGeometry();
-  } else if (QScreen* screen = QGuiApplication::primaryScreen()) {
-    over = screen->availableGeometry();
-  }
-  if (over.isValid()) win.move(over.center() - QPoint(win.width() / 2, win.height() / 2));
+  win.move(PlaceWithin(outer, over, available).topLeft());
+}
+
+void Front::KeepOnScreen(FormWindow& win) {
+  QScreen* screen = ScreenFor(&win);
+  if (!screen || win.isMaximized() || win.isFullScreen()) return;
+  const QRect available = screen->availableGeometry();
+  const QMargins frame = win.frameGeometry().isValid() && win.frameGeometry() != win.geometry()
+                             ? QMargins(win.geometry().left() - win.frameGeometry().left(),
+                                        win.geometry().top() - win.frameGeometry().top(),
+                                        win.frameGeometry().right() - win.geometry().right(),
+                                        win.frameGeometry().bottom() - win.geometry().bottom())
+                             : kFrame;
+  const QSize outer = win.size().grownBy(frame);
+  if (outer.width() > available.width() || outer.height() > available.height())
+    win.SetScale(OpeningScale(win.base(), available, frame));
+  win.move(PlaceWithin(win.size().grownBy(frame), win.frameGeometry(), available).topLeft());
 }
 
 // --- input -------------------------------------------------------------------------------------
@@ -483,6 +545,17 @@ void Front::Deliver(const vb::Input& input) {
 
 bool Front::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
+    case QEvent::WindowActivate:
+      // A window behind an open dialog gives the activation on to the dialog, which stays above.
+      if (vb::Form* top = vb::Engine::Get().TopModal()) {
+        FormWindow* dialog = windows_.value(top);
+        if (dialog && dialog != watched && dialog->isVisible() &&
+            qobject_cast<FormWindow*>(watched)) {
+          dialog->raise();
+          dialog->activateWindow();
+        }
+      }
+      return false;
     case QEvent::KeyPress:
       return watched->isWidgetType() && KeyEvent(static_cast<QWidget*>(watched), event);
     case QEvent::MouseButtonPress:
@@ -512,9 +585,12 @@ bool Front::MouseEvent(QWidget* w, vb::Control& c, QEvent* event) {
   vb::Input down = InputOn(vb::Input::Type::MouseDown, c);
   down.shift = ShiftOf(me->modifiers());
   if (me->button() == Qt::RightButton) {
-    if (!c.MouseDown) return false;
-    down.button = 2;
-    Deliver(down);
+    // A right press is heard only where the game listens for it; elsewhere it goes nowhere
+    // (a picture or a label over the felt is no way into the menu).
+    if (c.MouseDown) {
+      down.button = 2;
+      Deliver(down);
+    }
     return true;
   }
   if (me->button() != Qt::LeftButton) return false;
@@ -535,8 +611,31 @@ bool Front::KeyEvent(QWidget* w, QEvent* event) {
   auto* win = qobject_cast<FormWindow*>(w->window());
   if (!win || windows_.value(&win->form()) != win) return false;
   auto* ke = static_cast<QKeyEvent*>(event);
+  // The menu key and Shift+F10 are the right button of the keyboard: a right press on the form,
+  // with the menu where the focus is.
+  if (ke->key() == Qt::Key_Menu ||
+      (ke->key() == Qt::Key_F10 && ke->modifiers() == Qt::ShiftModifier)) {
+    vb::Form& form = win->form();
+    if (!form.MouseDown) return true;
+    QWidget* at = QApplication::focusWidget();
+    if (!at || at->window() != win) at = win;
+    SetPopupPlace(at->mapToGlobal(at->rect().center()));
+    vb::Input down = InputOn(vb::Input::Type::MouseDown, form);
+    down.button = 2;
+    Deliver(down);
+    SetPopupPlace(std::nullopt);
+    return true;
+  }
   const int code = KeyCodeOf(ke->key());
   if (code == 0) return false;
+  // Esc closes a dialog as its close box does; so does Enter in its text box, the way a player
+  // ends typing a name or a value. Not the shuffle's box, whose close ends the game.
+  const vb::Form& form = win->form();
+  if (!form.is_main && !form.close_ends_game &&
+      (code == 27 || (code == 13 && qobject_cast<QLineEdit*>(w)))) {
+    Deliver(InputOn(vb::Input::Type::Close, win->form()));
+    return true;
+  }
   if (qobject_cast<QLineEdit*>(w) && code != 9 && code != 13 && code != 27) return false;
   vb::Input in = InputOn(vb::Input::Type::Key, win->form());
   in.key_code = code;

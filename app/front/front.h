@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QScreen>
 #include <QWidget>
 
 #include "front/widgets.h"
@@ -50,6 +51,10 @@ class Front : public QObject, public vb::Listener {
   void ApplyLook(vb::Control& control, QWidget* widget);
   void ShowOrHide(vb::Form& form);
   void Place(FormWindow& window);
+  void KeepOnScreen(FormWindow& window);
+  // Every control of the form again at its window's scale.
+  void Rescale(vb::Form& form);
+  QScreen* ScreenFor(const QWidget* over) const;
   void Deliver(const vb::Input& input);
   bool MouseEvent(QWidget* widget, vb::Control& control, QEvent* event);
   bool KeyEvent(QWidget* widget, QEvent* event);

@@ -4,23 +4,33 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
+#include <QImage>
+#include <QImageReader>
+#include <cmath>
 
 namespace front {
 namespace {
 
-QString g_folder;
-QHash<QString, QPixmap> g_cache;
+// The densities the artwork is drawn at, and their file suffixes.
+struct Density {
+  int factor;
+  const char* suffix;
+};
+constexpr Density kDensities[] = {{1, ".png"}, {2, "@2x.png"}, {4, "@4x.png"}};
 
-QPixmap Load(const QString& id, bool dense) {
-  const QString base = ImageFolder() + QLatin1Char('/') + id;
-  if (dense && QFile::exists(base + QStringLiteral("@2x.png"))) {
-    QPixmap p(base + QStringLiteral("@2x.png"));
-    if (!p.isNull()) {
-      p.setDevicePixelRatio(2.0);
-      return p;
-    }
-  }
-  return QPixmap(PictureFile(id.toStdString()));
+QString g_folder;
+// Pictures made for the screen, by id and size in device pixels. Only one size of the table is
+// kept: a new scale empties it.
+QHash<QString, QPixmap> g_made;
+qint64 g_made_for = -1;
+QHash<QString, QSize> g_natural;
+
+// A drawing read from its file; not kept, as the picture made from it is.
+QImage Drawing(const QString& id, const Density& d) {
+  QImage img;
+  const QString path = ImageFolder() + QLatin1Char('/') + id + QLatin1String(d.suffix);
+  if (QFile::exists(path)) img.load(path);
+  return img;
 }
 
 }  // namespace
@@ -35,17 +45,8 @@ QString ImageFolder() {
 
 void SetImageFolder(const QString& folder) {
   g_folder = folder;
-  g_cache.clear();
-}
-
-QPixmap Picture(const std::string& id, qreal ratio) {
-  if (id.empty()) return QPixmap();
-  const bool dense = ratio > 1.0;
-  const QString name = QString::fromStdString(id);
-  const QString key = name + (dense ? QStringLiteral("|2") : QStringLiteral("|1"));
-  auto it = g_cache.find(key);
-  if (it == g_cache.end()) it = g_cache.insert(key, Load(name, dense));
-  return *it;
+  g_made.clear();
+  g_natural.clear();
 }
 
 QString PictureFile(const std::string& id) {
@@ -53,10 +54,11 @@ QString PictureFile(const std::string& id) {
 }
 
 std::string LoadPictures(const std::vector<std::string>& ids, qreal ratio) {
-  for (const std::string& id : ids) {
-    if (Picture(id, 1.0).isNull()) return id;
-    if (ratio > 1.0) Picture(id, ratio);
-  }
+  for (const std::string& id : ids)
+    if (Picture(id, 1.0, 1.0).isNull()) return id;
+  if (ratio != 1.0)
+    for (const std::string& id : ids)
+      if (Picture(id, 1.0, ratio).isNull()) return id;
   return std::string();
 }
 
@@ -68,8 +70,44 @@ QString PictureFaultText(const std::string& id) {
 }
 
 QSize PictureSize(const std::string& id) {
-  const QPixmap p = Picture(id, 1.0);
-  return p.isNull() ? QSize() : p.deviceIndependentSize().toSize();
+  if (id.empty()) return QSize();
+  const QString name = QString::fromStdString(id);
+  auto it = g_natural.find(name);
+  if (it == g_natural.end()) it = g_natural.insert(name, QImageReader(PictureFile(id)).size());
+  return it->isValid() ? *it : QSize();
+}
+
+QPixmap Picture(const std::string& id, qreal scale, qreal ratio) {
+  const QSize natural = PictureSize(id);
+  if (natural.isEmpty()) return QPixmap();
+  const double factor = scale * ratio;
+  const qint64 made_for = std::llround(factor * 1000.0);
+  if (made_for != g_made_for) {
+    g_made.clear();
+    g_made_for = made_for;
+  }
+  const QString name = QString::fromStdString(id);
+  auto it = g_made.find(name);
+  if (it != g_made.end()) return *it;
+
+  // The smallest drawing at least as dense as the screen needs; the densest when none is.
+  QImage source;
+  for (const Density& d : kDensities) {
+    const bool last = &d == &kDensities[std::size(kDensities) - 1];
+    if (d.factor < factor - 1e-6 && !last) continue;
+    source = Drawing(name, d);
+    if (!source.isNull()) break;
+  }
+  if (source.isNull())  // only the plainer drawings exist
+    for (const Density& d : kDensities)
+      if (QImage img = Drawing(name, d); !img.isNull()) source = img;
+  const QSize device(std::max(1, static_cast<int>(std::lround(natural.width() * factor))),
+                     std::max(1, static_cast<int>(std::lround(natural.height() * factor))));
+  if (source.size() != device)
+    source = source.scaled(device, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QPixmap made = QPixmap::fromImage(source);
+  made.setDevicePixelRatio(ratio);
+  return *g_made.insert(name, made);
 }
 
 }  // namespace front

@@ -1,6 +1,8 @@
-// The game's pictures, by id: "<images folder>/<id>.png", and "<id>@2x.png" on screens whose
-// pixels are denser than the desktop's units, so that cards and chips stay crisp. A missing file
-// is an empty picture, which draws nothing.
+// The game's pictures, by id. The artwork is drawn at 1, 2 and 4 times its size
+// ("<images folder>/<id>.png", "<id>@2x.png", "<id>@4x.png"); a picture is made at the exact
+// size it covers on the screen, from the smallest drawing at least that dense, so that it stays
+// crisp at any scale of the table and any density of the screen. A missing file is an empty
+// picture, which draws nothing.
 #pragma once
 
 #include <QPixmap>
@@ -15,11 +17,22 @@ namespace front {
 QString ImageFolder();
 void SetImageFolder(const QString& folder);  // empties the cache
 
-// `ratio` is the device pixel ratio of the widget that draws it.
-QPixmap Picture(const std::string& id, qreal ratio);
+// The picture at `scale` of the table, for a screen of device pixel ratio `ratio`: it covers its
+// natural size times `scale` in desktop units.
+QPixmap Picture(const std::string& id, qreal scale, qreal ratio);
 
-// The size of a picture in desktop units (what it covers at ratio 1); empty when missing.
+// The natural size of a picture in desktop units (what it covers at scale 1); empty when missing.
 QSize PictureSize(const std::string& id);
+
+// The file of a picture's natural size, whose name the player is told when it cannot be read.
+QString PictureFile(const std::string& id);
+
+// Makes every picture of `ids` at the table's first size, for a screen of `ratio`. Returns the
+// first id that cannot be made (its files missing, damaged, not pictures), or "".
+std::string LoadPictures(const std::vector<std::string>& ids, qreal ratio);
+
+// The message of a picture that cannot be read: the file and the folder where it was looked for.
+QString PictureFaultText(const std::string& id);
 
 // The file a picture is read from.
 QString PictureFile(const std::string& id);

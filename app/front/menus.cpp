@@ -11,6 +11,8 @@
 namespace front {
 namespace {
 
+std::optional<QPoint> g_place;
+
 void Fill(QMenu& qmenu, vb::Control& menu, vb::Control*& chosen) {
   for (vb::Control* entry : menu.children()) {
     if (entry->kind() != vb::Kind::Menu || !entry->Visible) continue;
@@ -44,7 +46,10 @@ void ShowPopupMenu(vb::Control& menu) {
   vb::Control* chosen = nullptr;
   Fill(qmenu, menu, chosen);
   if (qmenu.isEmpty()) return;
-  qmenu.exec(QCursor::pos());
+  const QPoint at = g_place.value_or(QCursor::pos());
+  // From the keyboard the first entry is ready to be walked with the arrows.
+  if (g_place && !qmenu.actions().isEmpty()) qmenu.setActiveAction(qmenu.actions().first());
+  qmenu.exec(at);
   if (!chosen) return;
   vb::Input in;
   in.type = vb::Input::Type::Menu;
@@ -52,6 +57,10 @@ void ShowPopupMenu(vb::Control& menu) {
   in.control = chosen->Name();
   in.index = chosen->Index();
   Guarded([&] { vb::Engine::Get().Deliver(in); });
+}
+
+void SetPopupPlace(std::optional<QPoint> global) {
+  g_place = global;
 }
 
 }  // namespace front

@@ -1,6 +1,6 @@
-// What a screen reader says for a control: buttons by their caption without the "&" of the
-// accelerator, labels by their text, pictures and toolbar buttons by what they show ("Ficha de
-// 5" for a chip place, the card code for a card, "12 fichas de 5" for a pile of chips).
+// What a screen reader says for a control: the name the game gives it, else its own text (buttons
+// by their caption without the "&" of the accelerator, labels by their text, a window by its
+// title). The front never makes a name up from a control's internals.
 #pragma once
 
 #include <QString>
@@ -13,10 +13,7 @@ namespace front {
 // "&P A G O" -> "P A G O"; "&&" stays one "&".
 QString WithoutAccelerator(const std::string& caption);
 
-// The name of a control's widget (not for toolbar buttons).
+// The name of a control's widget (not for toolbar buttons, which their toolbar names).
 QString AccessibleName(const vb::Control& control);
-
-// The name of a toolbar button, from the image it shows.
-QString ButtonName(vb::Control& toolbar, const vb::ToolbarButton& button);
 
 }  // namespace front

@@ -106,6 +106,10 @@ void SoundPlayer::Execute(const std::string& text) {
   // Pausing, stopping or closing a file that is not open does nothing.
   const auto it = devices_.find(path);
   if (it == devices_.end()) return;
+  if (!it->second.player) {
+    if (command.action == SoundAction::kClose) devices_.erase(it);  // a sound that has ended
+    return;
+  }
   QMediaPlayer& player = *it->second.player;
   switch (command.action) {
     case SoundAction::kPause:
@@ -129,26 +133,46 @@ void SoundPlayer::Play(const std::string& path) {
     // The first device of the run also wakes the media framework, so nothing of it is touched
     // before the game first wants a sound.
     if (!QFileInfo(QString::fromStdString(path)).isFile() || !CanPlay()) return;
-    OpenDevice device;
-    device.output = std::make_unique<QAudioOutput>();
-    device.output->setVolume(volume_);
-    device.player = std::make_unique<QMediaPlayer>();
-    device.player->setAudioOutput(device.output.get());
-    device.player->setSource(QUrl::fromLocalFile(QString::fromStdString(path)));
-    device.player->play();
-    devices_.emplace(path, std::move(device));
+    it = devices_.emplace(path, OpenDevice()).first;
+  }
+  OpenDevice& device = it->second;
+  if (!device.player) {
+    Start(path, device);
     return;
   }
   // A paused track goes on where it stopped; anything else starts over: the chips' rattle sent
-  // four times in a row restarts four times, and an effect that has finished plays again.
-  QMediaPlayer& player = *it->second.player;
+  // four times in a row restarts four times.
+  QMediaPlayer& player = *device.player;
   if (player.playbackState() != QMediaPlayer::PausedState) player.setPosition(0);
   player.play();
 }
 
+// A device's player exists while it sounds. A sound that has played to its end lets its player
+// go (the device stays open, and its next "Play" makes a new one): a player kept between sounds
+// holds a whole media pipeline, its memory and its threads, for as long as the game runs.
+void SoundPlayer::Start(const std::string& path, OpenDevice& device) {
+  device.output = std::make_unique<QAudioOutput>();
+  device.output->setVolume(volume_);
+  device.player = std::make_unique<QMediaPlayer>();
+  device.player->setAudioOutput(device.output.get());
+  QMediaPlayer* started = device.player.get();
+  QObject::connect(started, &QMediaPlayer::mediaStatusChanged, started,
+                   [this, path, started](QMediaPlayer::MediaStatus status) {
+                     if (status != QMediaPlayer::EndOfMedia) return;
+                     const auto found = devices_.find(path);
+                     if (found == devices_.end() || found->second.player.get() != started) return;
+                     // Not inside its own signal: the player goes when the queue is served.
+                     found->second.player.release()->deleteLater();
+                     found->second.output.release()->deleteLater();
+                   });
+  device.player->setSource(QUrl::fromLocalFile(QString::fromStdString(path)));
+  device.player->play();
+}
+
 void SoundPlayer::SetVolume(float volume) {
   volume_ = volume;
-  for (auto& [path, device] : devices_) device.output->setVolume(volume);
+  for (auto& [path, device] : devices_)
+    if (device.output) device.output->setVolume(volume);
 }
 
 QMediaPlayer* SoundPlayer::Device(const std::string& path) const {

@@ -50,7 +50,8 @@ class SoundPlayer {
   // The volume of every device, open or opened later (1.0 is the files' own loudness).
   void SetVolume(float volume);
 
-  // The open devices, by the file's full path.
+  // The open devices, by the file's full path. A device's player exists while it sounds or is
+  // paused: a sound that played to its end has none until it plays again (nullptr).
   std::size_t OpenDevices() const { return devices_.size(); }
   QMediaPlayer* Device(const std::string& path) const;
 
@@ -61,6 +62,7 @@ class SoundPlayer {
   };
 
   void Play(const std::string& path);
+  void Start(const std::string& path, OpenDevice& device);
 
   Role role_;
   float volume_ = 1.0f;

@@ -11,12 +11,17 @@
 #include <vector>
 
 #include "front/images.h"
-#include "front/names.h"
+#include "front/scaling.h"
 
 namespace front {
 
-int Px(int twips) {
-  return static_cast<int>(std::lround(twips / 15.0));
+int Px(int twips, double scale) {
+  return static_cast<int>(std::lround(twips * scale / 15.0));
+}
+
+double ScaleOf(const QWidget* widget) {
+  const auto* win = qobject_cast<const FormWindow*>(widget->window());
+  return win ? win->scale() : 1.0;
 }
 
 QColor ColorOf(std::uint32_t rgb) {
@@ -24,11 +29,11 @@ QColor ColorOf(std::uint32_t rgb) {
                 static_cast<int>(rgb & 0xFF));
 }
 
-QFont FontOf(const vb::Font& font) {
+QFont FontOf(const vb::Font& font, double scale) {
   QFont f;
   // Both old faces have metric twins or near twins among the free fonts.
   f.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")});
-  f.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * 96.0 / 72.0))));
+  f.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * 96.0 / 72.0 * scale))));
   f.setBold(font.bold);
   return f;
 }
@@ -86,8 +91,20 @@ PictureWidget::PictureWidget(vb::Control& control, QWidget* parent)
 void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter p(this);
   if (control_.HasBackColor) p.fillRect(rect(), ColorOf(control_.BackColor));
-  const QPixmap pixmap = Picture(control_.Picture, devicePixelRatioF());
+  const QPixmap pixmap = Picture(control_.Picture, ScaleOf(this), devicePixelRatioF());
   if (!pixmap.isNull()) p.drawPixmap(0, 0, pixmap);
+  if (hasFocus()) {
+    // The yellow of the game's focus bars, drawn inside the place, dashed so that it shows over
+    // any picture.
+    const double thick = std::max(2.0, 3.0 * ScaleOf(this) / 2.0);
+    QPen pen(ColorOf(0xFFFF00), thick, Qt::DashLine);
+    p.setPen(pen);
+    p.drawRect(QRectF(rect()).adjusted(thick / 2, thick / 2, -thick / 2, -thick / 2));
+    pen.setColor(Qt::black);
+    pen.setDashOffset(2);
+    p.setPen(pen);
+    p.drawRect(QRectF(rect()).adjusted(thick / 2, thick / 2, -thick / 2, -thick / 2));
+  }
 }
 
 // --- shapes and lines --------------------------------------------------------------------------
@@ -99,7 +116,7 @@ ShapeWidget::ShapeWidget(vb::Control& control, QWidget* parent)
 
 void ShapeWidget::paintEvent(QPaintEvent*) {
   QPainter p(this);
-  const int thick = std::max(1, control_.BorderWidth);
+  const int thick = std::max(1, Px(15 * control_.BorderWidth, ScaleOf(this)));
   if (control_.kind() == vb::Kind::Line) {
     p.setPen(QPen(ColorOf(control_.ForeColor), thick));
     p.drawLine(0, 0, std::max(0, width() - 1), std::max(0, height() - 1));
@@ -129,11 +146,11 @@ void ToolbarButtonWidget::paintEvent(QPaintEvent*) {
   } else if (underMouse() && isEnabled()) {
     qDrawShadePanel(&p, rect(), palette(), false, 1);
   }
-  QPixmap pixmap = Picture(ButtonPicture(toolbar_, b), devicePixelRatioF());
+  QPixmap pixmap = Picture(ButtonPicture(toolbar_, b), ScaleOf(this), devicePixelRatioF());
   if (pixmap.isNull()) return;
   if (!isEnabled()) pixmap = Greyed(pixmap);
   const QSize size = pixmap.deviceIndependentSize().toSize();
-  const int shift = sunk ? 1 : 0;
+  const int shift = sunk ? std::max(1, Px(15, ScaleOf(this))) : 0;
   p.drawPixmap((width() - size.width()) / 2 + shift, (height() - size.height()) / 2 + shift,
                pixmap);
 }
@@ -159,6 +176,9 @@ void ToolbarWidget::Layout() {
     image = PictureSize(control_.images->PictureOf(1));
   if (image.isEmpty()) image = QSize(71, 96);
   const bool piles = image.width() > image.height();
+  // Laid out in the pixels of scale 1, then scaled edge to edge.
+  const double scale = ScaleOf(this);
+  const auto px = [scale](int unscaled) { return static_cast<int>(std::lround(unscaled * scale)); };
   int x = 0;
   for (ToolbarButtonWidget* w : buttons_) {
     const vb::ToolbarButton& b = control_.Button(w->index());
@@ -167,13 +187,14 @@ void ToolbarWidget::Layout() {
     // cards of a hand (so that the cards stand under their key places).
     const bool gap = w->index() % 2 == 1 && b.Key().empty() && b.Image() == "0";
     const int width = gap ? (piles ? 40 : (w->index() == 1 ? 2 : 13)) : image.width() + 7;
-    w->setGeometry(x, 0, width, image.height() + 7);
+    w->setGeometry(px(x), 0, px(x + width) - px(x), px(image.height() + 7));
     w->setVisible(!gap);
     x += width;
   }
+  x = px(x);
   // A strip with more places than fit (the whole deck laid out) overlaps them like a spread
   // deck, each card showing its left edge and the last one whole.
-  const int available = control_.Width / 15;
+  const int available = Px(control_.Width, scale);
   if (x > available && !buttons_.empty()) {
     std::vector<ToolbarButtonWidget*> shown;
     for (ToolbarButtonWidget* w : buttons_)
@@ -194,9 +215,9 @@ void ToolbarWidget::Refresh(int index) {
     if (index != 0 && w->index() != index) continue;
     const vb::ToolbarButton& b = control_.Button(w->index());
     w->setEnabled(b.Enabled());
-    w->setAccessibleName(ButtonName(control_, b));
-    w->setAccessibleDescription(
-        QStringLiteral("%1, botão %2").arg(QString::fromStdString(control_.Id())).arg(b.Index()));
+    if (const QString name = QString::fromStdString(control_.AccessibleName(b));
+        name != w->accessibleName())
+      w->setAccessibleName(name);
     w->update();
   }
 }
@@ -210,8 +231,55 @@ void ToolbarWidget::paintEvent(QPaintEvent*) {
 
 // --- windows -----------------------------------------------------------------------------------
 
-FormWindow::FormWindow(vb::Form& form, std::function<void()> on_close)
-    : QWidget(nullptr), form_(form), on_close_(std::move(on_close)) {}
+FormWindow::FormWindow(vb::Form& form, QWidget* owner, std::function<void()> on_close,
+                       std::function<void()> on_rescale)
+    : QWidget(owner, owner ? Qt::Dialog : Qt::Window),
+      form_(form),
+      stage_(new QWidget(this)),
+      on_close_(std::move(on_close)),
+      on_rescale_(std::move(on_rescale)),
+      resizable_(form.is_main) {
+  stage_->setObjectName(QStringLiteral("pokerzeva_stage"));
+}
+
+void FormWindow::SetBase(QSize base) {
+  base_ = base;
+  if (resizable_) {
+    setMinimumSize(base_ * kMinScale);
+    resize(base_ * scale_);
+  } else {
+    setFixedSize(base_ * scale_);
+  }
+  Fit();
+}
+
+void FormWindow::SetScale(double scale) {
+  const bool changed = scale != scale_;
+  scale_ = scale;  // a hidden window hears of its new size only when shown
+  if (resizable_) {
+    resize(base_ * scale);
+  } else {
+    setFixedSize(base_ * scale_);
+  }
+  Fit();
+  if (changed && on_rescale_) on_rescale_();
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+  // A size made from the scale keeps that scale exactly.
+  if (!resizable_ || size() == base_ * scale_) return Fit();
+  const double scale = FitScale(size(), base_);
+  const bool changed = scale != scale_;
+  scale_ = scale;
+  Fit();
+  if (changed && on_rescale_) on_rescale_();
+}
+
+void FormWindow::Fit() {
+  const QSize stage = base_ * scale_;
+  stage_->setGeometry(
+      QRect(QPoint((width() - stage.width()) / 2, (height() - stage.height()) / 2), stage));
+}
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();

@@ -14,12 +14,14 @@
 
 namespace front {
 
-// Twips to the desktop's units: 15 to the pixel, as at the usual 96 dots an inch. Qt turns
-// these into device pixels by the screen's scale.
-int Px(int twips);
+// Twips to the desktop's units: 15 to the pixel at scale 1, as at the usual 96 dots an inch, times
+// the table's scale. Qt turns these into device pixels by the screen's own ratio.
+int Px(int twips, double scale);
+// The scale of the table a widget stands on (1 outside the game's windows).
+double ScaleOf(const QWidget* widget);
 QColor ColorOf(std::uint32_t rgb);
-// Arial becomes Liberation Sans and MS Sans Serif a like sans; sizes in points at 96 dpi.
-QFont FontOf(const vb::Font& font);
+// Arial becomes Liberation Sans and MS Sans Serif a like sans; sizes in points at 96 dpi, scaled.
+QFont FontOf(const vb::Font& font, double scale);
 
 // A frame: the back colour, and the etched border with its caption when it has one.
 class FrameWidget : public QWidget {
@@ -34,7 +36,8 @@ class FrameWidget : public QWidget {
   vb::Control& control_;
 };
 
-// A picture box: its picture at its natural size from the top-left corner, cut to the box.
+// A picture box: its picture at its natural size (scaled) from the top-left corner, cut to the
+// box; a picture that has the focus is ringed with the game's yellow focus bars.
 class PictureWidget : public QWidget {
   Q_OBJECT
  public:
@@ -104,21 +107,40 @@ class ToolbarWidget : public QWidget {
 };
 
 // The window of a form. Its close box asks the game (which may unload the form, end the game, or
-// refuse), and never closes the window by itself.
+// refuse), and never closes the window by itself. The controls stand on a stage of the form's
+// size times the scale, centred in the window, with the form's colour round it. The main window
+// can be resized: its scale follows its size. A dialog keeps the table's scale.
 class FormWindow : public QWidget {
   Q_OBJECT
  public:
-  FormWindow(vb::Form& form, std::function<void()> on_close);
+  // `owner`: the table's window, for a dialog (it stays above the table).
+  FormWindow(vb::Form& form, QWidget* owner, std::function<void()> on_close,
+             std::function<void()> on_rescale);
   vb::Form& form() const { return form_; }
+  QWidget* stage() const { return stage_; }
+  double scale() const { return scale_; }
+  // The form's client size at scale 1.
+  void SetBase(QSize base);
+  QSize base() const { return base_; }
+  // A dialog's fixed size follows; the table's window is resized to the scale.
+  void SetScale(double scale);
+  bool resizable() const { return resizable_; }
   bool placed = false;  // put in its place on the screen once, when first shown
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Fit();
   vb::Form& form_;
+  QWidget* stage_;
   std::function<void()> on_close_;
+  std::function<void()> on_rescale_;
+  QSize base_;
+  double scale_ = 1.0;
+  bool resizable_;
 };
 
 }  // namespace front

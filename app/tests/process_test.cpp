@@ -24,7 +24,7 @@
 #include "front/qt_settings.h"
 #include "platform/engine.h"
 #include "platform/settings.h"
-#include "sample/sample_form.h"
+#include "support/sample_form.h"
 
 namespace {
 

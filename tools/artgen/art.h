@@ -34,6 +34,10 @@ void addFaces(ArtList& list);
 void addBalloon(ArtList& list);
 void addShuffle(ArtList& list);
 
+// The application icon, painted on a kIconSize x kIconSize canvas.
+constexpr int kIconSize = 256;
+void paintIcon(QPainter& p);
+
 // ---- suits -----------------------------------------------------------------
 
 enum class Suit { Hearts, Diamonds, Spades, Clubs };

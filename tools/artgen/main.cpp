@@ -1,16 +1,18 @@
 // pokerzeva-artgen: paints every picture of PokerZEVA and writes them as PNG files.
 //
 //   pokerzeva-artgen --out assets/images [--sheet contact_sheet.png] [--zoom N]
-//                    [--only PREFIX]
+//                    [--only PREFIX] [--icon assets/icon]
 //   pokerzeva-artgen --check assets/images
 //
 // --check paints every picture and compares it with the files in the folder, pixel by pixel:
 // antialiased edges come out a shade different on another processor, so a channel may differ by
 // a few levels, but no picture may be missing, change its size or change what it shows.
 //
-// Each picture is painted twice from the same vector drawing: at 1x into
-// <name>.png and at 2x into <name>@2x.png. The output is deterministic: no
-// timestamps or text chunks are written and nothing random is used.
+// Each picture is painted three times from the same vector drawing: at 1x into
+// <name>.png, at 2x into <name>@2x.png and at 4x into <name>@4x.png. The output is deterministic:
+// no timestamps or text chunks are written and nothing random is used.
+// --icon writes the application icon as pokerzeva.svg and as
+// pokerzeva-48.png, -128.png and -256.png for the desktop's icon theme.
 #include <QDir>
 #include <QFileInfo>
 #include <QFont>
@@ -19,6 +21,7 @@
 #include <QImage>
 #include <QImageWriter>
 #include <QStringList>
+#include <QSvgGenerator>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -26,6 +29,13 @@
 #include "art.h"
 
 namespace {
+
+// The densities each picture is painted at: the screen makes any size from the nearest one above.
+struct Density {
+  int factor;
+  const char* suffix;
+};
+constexpr Density kDensities[] = {{1, ".png"}, {2, "@2x.png"}, {4, "@4x.png"}};
 
 QImage render(const artgen::Art& art, int scale) {
   QImage img(art.width * scale, art.height * scale, QImage::Format_ARGB32_Premultiplied);
@@ -55,6 +65,43 @@ bool save(const QImage& img, const QString& path) {
     std::fprintf(stderr, "cannot write %s: %s\n", qPrintable(path),
                  qPrintable(writer.errorString()));
     return false;
+  }
+  return true;
+}
+
+// The application icon: the SVG from the same drawing the PNG sizes are painted from.
+bool writeIcon(const QString& dir) {
+  QDir().mkpath(dir);
+  const QString svgPath = dir + QStringLiteral("/pokerzeva.svg");
+  {
+    QSvgGenerator svg;
+    svg.setFileName(svgPath);
+    svg.setSize(QSize(artgen::kIconSize, artgen::kIconSize));
+    svg.setViewBox(QRect(0, 0, artgen::kIconSize, artgen::kIconSize));
+    svg.setResolution(96);
+    svg.setTitle(QStringLiteral("PokerZEVA"));
+    svg.setDescription(QStringLiteral("PokerZEVA"));
+    QPainter p;
+    if (!p.begin(&svg)) {
+      std::fprintf(stderr, "cannot write %s\n", qPrintable(svgPath));
+      return false;
+    }
+    p.setRenderHint(QPainter::Antialiasing, true);
+    artgen::paintIcon(p);
+  }
+  for (int size : {48, 128, 256}) {
+    QImage img(size, size, QImage::Format_ARGB32_Premultiplied);
+    img.fill(Qt::transparent);
+    {
+      QPainter p(&img);
+      p.setRenderHint(QPainter::Antialiasing, true);
+      p.scale(size / double(artgen::kIconSize), size / double(artgen::kIconSize));
+      artgen::paintIcon(p);
+    }
+    QImage out = img.convertToFormat(QImage::Format_ARGB32);
+    out.setDotsPerMeterX(2835);
+    out.setDotsPerMeterY(2835);
+    if (!save(out, dir + QStringLiteral("/pokerzeva-%1.png").arg(size))) return false;
   }
   return true;
 }
@@ -171,6 +218,7 @@ bool matches(const QImage& painted, const QString& path) {
 void usage() {
   std::fprintf(stderr,
                "usage: pokerzeva-artgen --out DIR [--sheet FILE.png] [--zoom N] [--only PREFIX]\n"
+               "       [--icon DIR]\n"
                "       pokerzeva-artgen --check DIR\n");
 }
 
@@ -185,6 +233,7 @@ int main(int argc, char** argv) {
   QString sheetPath;
   QString only;
   QString checkDir;
+  QString iconDir;
   int zoom = 1;
   const QStringList args = app.arguments();
   for (int i = 1; i < args.size(); ++i) {
@@ -200,14 +249,21 @@ int main(int argc, char** argv) {
       checkDir = args[++i];
     } else if (a == QLatin1String("--only") && hasValue) {
       only = args[++i];
+    } else if (a == QLatin1String("--icon") && hasValue) {
+      iconDir = args[++i];
     } else {
       usage();
       return 2;
     }
   }
-  if (outDir.isEmpty() && sheetPath.isEmpty() && checkDir.isEmpty()) {
+  if (outDir.isEmpty() && sheetPath.isEmpty() && checkDir.isEmpty() && iconDir.isEmpty()) {
     usage();
     return 2;
+  }
+  if (!iconDir.isEmpty()) {
+    if (!writeIcon(iconDir)) return 1;
+    std::printf("icon written to %s\n", qPrintable(iconDir));
+    if (outDir.isEmpty() && sheetPath.isEmpty() && checkDir.isEmpty()) return 0;
   }
 
   artgen::ArtList all;
@@ -228,8 +284,8 @@ int main(int argc, char** argv) {
     int bad = 0;
     for (const auto& art : list) {
       const QString base = checkDir + QLatin1Char('/') + art.name;
-      bad += !matches(render(art, 1), base + QStringLiteral(".png"));
-      bad += !matches(render(art, 2), base + QStringLiteral("@2x.png"));
+      for (const Density& d : kDensities)
+        bad += !matches(render(art, d.factor), base + QLatin1String(d.suffix));
     }
     std::printf("%d pictures checked, %d files differ\n", static_cast<int>(list.size()), bad);
     if (bad > 0 || sheetPath.isEmpty()) return bad > 0 ? 1 : 0;
@@ -241,12 +297,11 @@ int main(int argc, char** argv) {
   for (const auto& art : list) {
     QImage one = render(art, 1);
     if (!outDir.isEmpty()) {
-      const QImage two = render(art, 2);
-      if (!save(one, outDir + QLatin1Char('/') + art.name + QStringLiteral(".png")) ||
-          !save(two, outDir + QLatin1Char('/') + art.name + QStringLiteral("@2x.png"))) {
-        return 1;
+      for (const Density& d : kDensities) {
+        const QImage img = d.factor == 1 ? one : render(art, d.factor);
+        if (!save(img, outDir + QLatin1Char('/') + art.name + QLatin1String(d.suffix))) return 1;
+        ++written;
       }
-      written += 2;
     }
     ones.push_back(std::move(one));
   }

@@ -62,6 +62,8 @@ class Session {
   // The scripted player in a dialog: one step each time the dialog waits; false when none is due.
   bool DriveDialog();
   void EmitDialog(const vb::Form& form);
+  // The menu lines the random player may choose between hands.
+  void MenuActions(std::vector<std::string>& actions) const;
   friend struct Observer;
   Options options_;
   std::ostream* out_;
