@@ -30,7 +30,8 @@ void Botao(vb::Control& command1, int top) {
   command1.TabIndex = 0;
 }
 
-void DesenharTexto(vb::Form& form, vb::Control& frame1, vb::Control& text1) {
+void DesenharTexto(vb::Form& form, vb::Control& frame1, vb::Control& text1, const char* nome) {
+  text1.accessible.name = nome;
   form.Move(0, 0, kLargura, 1500);
   frame1.Move(240, 180, 4680, 705);
   text1.Move(120, 180, 4440, 405);
@@ -192,7 +193,7 @@ float LerValorFicha(const std::string& texto) {
 
 FrmValordaFicha::FrmValordaFicha() : vb::Form("FrmValordaFicha") {
   Caption = "  Valor da Ficha ? (em Reais)";
-  DesenharTexto(*this, Frame1, Text1);
+  DesenharTexto(*this, Frame1, Text1, "Valor da ficha, em reais");
   Activate = [this] { Form_Activate(); };
   Unload = [this](int&) { Form_Unload(); };
 }
@@ -211,7 +212,7 @@ void FrmValordaFicha::Form_Unload() {
 
 frmMeuNome::frmMeuNome() : vb::Form("frmMeuNome") {
   Caption = "   Meu NOME e ?";
-  DesenharTexto(*this, Frame1, Text1);
+  DesenharTexto(*this, Frame1, Text1, "Seu nome");
   Activate = [this] { Form_Activate(); };
   Unload = [this](int&) { Form_Unload(); };
 }

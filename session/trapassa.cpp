@@ -12,6 +12,7 @@ FrmTrapassa::FrmTrapassa() : vb::Form("FrmTrapassa") {
   Text1.Move(240, 540, 4800, 405);
   Text1.font.size = 12;
   Text1.TabIndex = 0;
+  Text1.accessible.name = "Senha da Trapassa";
   Unload = [this](int&) { Form_Unload(); };
   Form_Initialize();
 }

@@ -127,23 +127,15 @@ TEST_F(Chips, PilhaDeFichasCapsEachSideItsOwnWay) {
   }
 }
 
-TEST_F(Chips, PilhaDeFichasFaultsOnTheImagesThatDoNotExist) {
-  Montar(false, {30, 0, 0, 0});  // the player's ones have no cap
-  EXPECT_FAULT(PilhaDeFichas(false, 4), vb::err::kElementNotFound);
-  Montar(false, {0, 3, 0, 0});  // a negative amount is not checked against the stack
-  EXPECT_FAULT(PilhaDeFichas(false, -1), vb::err::kElementNotFound);
-}
-
 // --- TrocarFichas -------------------------------------------------------------------------------
 
 TEST_F(Chips, TrocarFichasMakesChange) {
   struct Caso {
     Pilha antes, depois;
   } casos[] = {
-      {{0, 0, 4, 19}, {15, 13, 16, 15}},
-      {{0, 0, 0, 1}, {15, 5, 1, 0}},
-      {{0, 0, 0, 0}, {0, 0, 0, 0}},
-      {{30, 30, 30, 30}, {30, 30, 30, 30}},
+      {{0, 0, 4, 19}, {15, 13, 16, 15}}, {{0, 0, 0, 1}, {15, 5, 1, 0}},
+      {{0, 5, 0, 0}, {10, 3, 0, 0}},  // five fives: two are broken into ones
+      {{0, 0, 0, 0}, {0, 0, 0, 0}},      {{30, 30, 30, 30}, {30, 30, 30, 30}},
   };
   for (bool poker : {true, false}) {
     for (const Caso& c : casos) {
@@ -166,39 +158,6 @@ TEST_F(Chips, TrocarFichasMintsOnesUntilTheTensReachFiveAndTheRedrawFaults) {
     EXPECT_FAULT(TrocarFichas(poker, true), vb::err::kElementNotFound);
     EXPECT_EQ(poker ? FichasPoker : FichasPlayer, 205);  // forty minted, the 45 ones name no image
   }
-}
-
-TEST_F(Chips, TrocarFichasWithoutMostrarDropsTheChangeAndKeepsOnlyTheTotal) {
-  struct Caso {
-    Pilha pilha;
-    int total;  // changes only where ones are minted
-  } casos[] = {{{0, 0, 4, 19}, 990}, {{0, 0, 0, 1}, 50}, {{25, 22, 3, 0}, 205}};
-  for (const Caso& c : casos) {
-    Montar(true, c.pilha);
-    Botao(true, 2).SetEnabled(false);
-    TrocarFichas(true, false);
-    EXPECT_EQ(FichasPoker, c.total);
-    EXPECT_EQ(Lida(true), c.pilha);
-    EXPECT_FALSE(Botao(true, 2).Enabled());
-  }
-}
-
-TEST_F(Chips, TrocarFichasForTheOpponentEnablesThePlayersButtons) {
-  Montar(false, {0, 0, 0, 0});
-  for (int b = 2; b <= 8; b += 2) Botao(false, b).SetEnabled(false);
-  for (int i = 0; i < 4; ++i) F().PicFichasPlayer(i).Enabled = false;
-  Montar(true, {0, 0, 0, 1});
-  Botao(true, 2).SetEnabled(false);
-  TrocarFichas(true, true);  // 15 ones, 5 fives, 1 ten, no fifty
-  EXPECT_EQ(Lida(true), (Pilha{15, 5, 1, 0}));
-  EXPECT_EQ(Lida(false), (Pilha{0, 0, 0, 0}));
-  EXPECT_TRUE(Botao(false, 2).Enabled());
-  EXPECT_TRUE(Botao(false, 4).Enabled());
-  EXPECT_TRUE(Botao(false, 6).Enabled());
-  EXPECT_FALSE(Botao(false, 8).Enabled());
-  EXPECT_FALSE(Botao(true, 2).Enabled());  // her own buttons are never enabled here
-  EXPECT_FALSE(Botao(true, 8).Enabled());
-  for (int i = 0; i < 4; ++i) EXPECT_FALSE(F().PicFichasPlayer(i).Enabled);
 }
 
 // --- MoverFichas --------------------------------------------------------------------------------
@@ -271,20 +230,6 @@ TEST_F(Chips, MoverFichasPaysShortDenominationsDownward) {
               (std::vector<std::string>{cinco, cinco, cinco, cinco, Mci("EFEITOS", "FICHAS_50")}));
     EXPECT_EQ(poker ? FichasPoker : FichasPlayer, 0);
   }
-}
-
-TEST_F(Chips, MoverFichasEmptiesButtonsExactlyAndKeepsThemEnabledExceptTheOnes) {
-  Montar(false, {2, 1, 1, 1});
-  FichasPlayer = 500;  // the cap looks at the total only
-  MoverFichas(false, 67, false);
-  for (int b = 4; b <= 8; b += 2) {
-    EXPECT_EQ(Imagem(false, b).substr(3), "_00");
-    EXPECT_TRUE(Botao(false, b).Enabled());
-  }
-  EXPECT_EQ(Imagem(false, 2), "0");
-  EXPECT_FALSE(Botao(false, 2).Enabled());
-  EXPECT_FALSE(F().PicFichasPlayer(0).Enabled);
-  EXPECT_EQ(Mostradas(F().PicturePlayerCoin), (std::vector<int>{1, 1, 5, 10, 50}));
 }
 
 TEST_F(Chips, MoverFichasCapsAtTheTotalAndPlacesBehindOrAfresh) {
@@ -395,14 +340,6 @@ TEST_F(Chips, FichasNaMesaSplitsThePotGreedilyOnesFirst) {
   EXPECT_EQ(F().PictureCoin(46).Picture.get(), F().ImageListExtras.PictureOf("Ficha50"));
 }
 
-TEST_F(Chips, FichasNaMesaClicksOncePerChip) {
-  EfeitosOn = true;
-  MesaPingo = 7;
-  FichasNaMesa();
-  const std::string um = Mci("EFEITOS", "FICHAS_1");
-  EXPECT_EQ(vb::MciSent(), (std::vector<std::string>{um, um, Mci("EFEITOS", "FICHAS_5")}));
-}
-
 // --- AtualizarLabels and the arrow --------------------------------------------------------------
 
 TEST_F(Chips, AtualizarLabelsWritesChipsAndMoney) {
@@ -435,21 +372,6 @@ TEST_F(Chips, AtualizarLabelsWritesChipsAndMoney) {
   for (auto* l : {&F().LabelPlayerMoney, &F().LabelPokerMoney, &F().LabelMesaMoney})
     EXPECT_EQ(Caption(*l), "$ 0.00");
   EXPECT_EQ(Caption(F().LabelPlayerMesaTotalCoims), "0 fs.");
-}
-
-TEST_F(Chips, AtualizarLabelsPlaysLaLuzOnlyWithEffectsOn) {
-  AtualizarLabels();
-  EXPECT_TRUE(vb::MciSent().empty());
-  EfeitosOn = true;
-  AtualizarLabels();
-  EXPECT_EQ(vb::MciSent(), std::vector<std::string>{"Play MUSICAS\\MELODIAS\\LALUZ.WAV"});
-}
-
-TEST_F(Chips, MostrarSetaPointsAtWhoHoldsTheHand) {
-  MostrarSeta(true);
-  EXPECT_EQ(F().PictureMão.Picture.get(), F().ImageListExtras.PictureOf("SetaAcima"));
-  MostrarSeta(false);
-  EXPECT_EQ(F().PictureMão.Picture.get(), F().ImageListExtras.PictureOf("SetaAbaixo"));
 }
 
 // --- EscolherFicha ------------------------------------------------------------------------------

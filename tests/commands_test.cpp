@@ -220,18 +220,6 @@ TEST_F(PlayerCommands, CmdTudoStakesWhatTheRulesAllow) {
   }
 }
 
-TEST_F(PlayerCommands, CmdTudoAboveTheLimitIsRefused) {
-  Montar({.abertura_poker = 200});
-  const std::int64_t antes = host->Now();
-  Gravar();
-  ASSERT_TRUE(Click("CmdTudo"));
-  EXPECT_EQ(AberturaPlayer, 0);
-  EXPECT_EQ(MesaPote, 0);
-  EXPECT_TRUE(F().FraApostaPlayer.Visible);
-  EXPECT_TRUE(Falas().empty());
-  EXPECT_EQ(host->Now(), antes);
-}
-
 // At phase 13 no level can be trimmed: with the levels above the target the program stops
 // responding, and only its window's close box answers.
 TEST_F(PlayerCommands, CmdTudoAtPhase13AboveTheTargetHangs) {
@@ -305,20 +293,6 @@ TEST_F(PlayerCommands, CmdDesfazerTakesBackTheLastLevel) {
     EXPECT_EQ(NaPilha(false), l.fichas);
     EXPECT_EQ(Caption(F().LabelPlayerFichas), std::to_string(l.fichas) + " Fichas");
     EXPECT_EQ(static_cast<int>(Fase), l.lance.fase);  // the phase does not move back
-  }
-}
-
-// With nothing staked in the final round, or outside the betting, it does nothing at all, not
-// even the redraw of the stack.
-TEST_F(PlayerCommands, CmdDesfazerWithNothingToTakeBackInTheFinalRound) {
-  for (int fase : {30, 20}) {
-    Fresh();
-    Montar({.fase = fase, .abertura_player = 30, .pilha_player = {0, 10, 10, 10}});
-    F().LabelPlayerFichas.Caption = "?";
-    Click("CmdDesfazer", 0);
-    EXPECT_EQ(Contagem(false, kUm), 0);  // TrocarFichas would have broken a five
-    EXPECT_EQ(Caption(F().LabelPlayerFichas), "?");
-    EXPECT_EQ(MesaPote, 30);
   }
 }
 
@@ -426,92 +400,6 @@ TEST_F(PlayerCommands, CmdSairLeavesTheTableForCmdMaisUmaToPay) {
     EXPECT_EQ(AberturaPlayer, 0);
     EXPECT_TRUE(F().Timer1.Enabled);
   }
-}
-
-TEST_F(PlayerCommands, CmdSairOnTheLastBarEndsTheGame) {
-  Montar({.fase = 50});
-  MostrarFim("a", "b");
-  ComSom();
-  try {
-    Click("CmdSair", 2);
-    ADD_FAILURE() << "the game went on";
-  } catch (const vb::ProgramEnded& e) {
-    EXPECT_EQ(e.how, vb::EndHow::Unloaded);
-  }
-  EXPECT_EQ(vb::MciSent(), Sons{kFechaTudo});
-}
-
-// A whole turn on the keyboard: the chip places walked with the arrows and Tab, chips taken with
-// Space and Enter, an accelerator, and the turn ended with Enter on "Acabei".
-TEST_F(PlayerCommands, AWholeTurnByKeysAlone) {
-  Montar({.mao = false});
-  PrepararPlayer();
-  auto focado = [&] { return F().ActiveControl(); };
-  auto moldura = [&](int place) {
-    bool all = true;
-    for (int k = 0; k < 4; ++k) all = all && F().FraFichasFocus(place * 4 + k).Visible;
-    return all;
-  };
-  ASSERT_EQ(focado(), &F().PicFichasPlayer(0));
-  EXPECT_TRUE(moldura(0));
-
-  Key(32);  // a chip of 1
-  Key(40);
-  EXPECT_EQ(focado(), &F().PicFichasPlayer(1));
-  EXPECT_TRUE(moldura(1));
-  EXPECT_FALSE(moldura(0));
-  Key(13);  // a chip of 5
-  Key(39);
-  Key(32);  // a chip of 10
-  EXPECT_EQ(MesaPote, 16);
-  EXPECT_EQ(AberturaPlayer, 16);
-  Key(38);
-  EXPECT_EQ(focado(), &F().PicFichasPlayer(1));
-  Key(37);
-  EXPECT_EQ(focado(), &F().PicFichasPlayer(0));
-
-  // Alt+D, the accelerator of "&DesFazer": the stake comes back.
-  ASSERT_TRUE(Click("CmdDesfazer", 0));
-  EXPECT_EQ(MesaPote, 0);
-  ASSERT_EQ(focado(), &F().PicFichasPlayer(0));  // the stack redrawn, down to the ones
-  for (int i = 0; i < 3; ++i) Key(40);
-  EXPECT_EQ(focado(), &F().PicFichasPlayer(3));
-  Key(13);  // a chip of 50
-  EXPECT_EQ(AberturaPlayer, 50);
-
-  // Tab on past the hidden cards and the buttons to "Acabei".
-  for (int i = 0; i < 5; ++i) Key(9);
-  ASSERT_EQ(focado(), &F().CmdAcabei(0));
-  EXPECT_TRUE(FocoAcabei);
-  // Backward from "Acabei" the focus wraps to the first chip place, and from there backward it
-  // comes round to "Acabei" again.
-  Key(9, 1);
-  EXPECT_EQ(focado(), &F().PicFichasPlayer(0));
-  EXPECT_FALSE(FocoAcabei);
-  Key(9, 1);
-  ASSERT_EQ(focado(), &F().CmdAcabei(0));
-
-  Gravar();
-  vb::ScriptRnd({kLinha, Humor(0), kLinha});
-  Key(13);
-  EXPECT_EQ(Falas().at(0), Ditos({{false, "ELEABRIU", 50}})[0]);
-  EXPECT_EQ(AberturaPoker, 50);  // she covered
-  EXPECT_EQ(static_cast<int>(Fase), 20);
-}
-
-// A click on another button while "Acabei" has the focus runs that button, though the focus
-// wraps away on the way.
-TEST_F(PlayerCommands, AClickElsewhereStillRunsWhileAcabeiWrapsTheFocus) {
-  Montar({.abertura_player = 30});
-  PrepararPlayer();
-  vb::Engine::Get().RunFocusEvents();  // back in the event loop, as after any turn
-  F().CmdAcabei(0).SetFocus();
-  vb::Engine::Get().RunFocusEvents();
-  ASSERT_TRUE(FocoAcabei);
-  ASSERT_TRUE(Click("CmdDesfazer", 0));
-  EXPECT_EQ(MesaPote, 0);
-  EXPECT_FALSE(FocoAcabei);
-  EXPECT_NE(F().ActiveControl(), &F().CmdDesfazer(0));
 }
 
 }  // namespace

@@ -24,29 +24,6 @@ class DeckAndDeal : public ::testing::Test {
   void TearDown() override { ResetProcess(); }
 };
 
-TEST_F(DeckAndDeal, CardTagsByCodeAndAsText) {
-  struct Row {
-    const char* code;
-    int tag;
-  };
-  for (const Row& r : {Row{"AC", 1}, Row{"AT", 4}, Row{"KC", 5}, Row{"KD", 6}, Row{"QC", 9},
-                       Row{"DT", 20}, Row{"9C", 21}, Row{"2C", 49}, Row{"2T", 52}}) {
-    EXPECT_EQ(CardTag(r.code), r.tag) << r.code;
-    EXPECT_EQ(CardTagText(r.code), std::to_string(r.tag)) << r.code;
-    EXPECT_EQ(kCartas[r.tag - 1].code, r.code);
-    EXPECT_EQ(kCartas[r.tag - 1].TagText(), std::to_string(r.tag));
-  }
-  // A code that is not a card is a missing key of the picture store.
-  for (const char* bad : {"", "ac", "1C", "AX", "ACE", "FRENTE"}) {
-    try {
-      CardTag(bad);
-      ADD_FAILURE() << "no error for '" << bad << "'";
-    } catch (const vb::RuntimeError& e) {
-      EXPECT_EQ(e.number(), vb::err::kElementNotFound);
-    }
-  }
-}
-
 TEST_F(DeckAndDeal, EncherBaralhoLosesTheLowestRanksOfASmallerDeck) {
   struct Row {
     int nro;
@@ -217,27 +194,6 @@ TEST_F(DeckAndDeal, GuardarSementeFirstExitThenReseedsWithTheStoredValue) {
   EXPECT_EQ(Semente, expected);
   EXPECT_EQ(vb::GetSetting("Trevim", "Ramdomize", "Seed"), vb::SingleText(expected));
   EXPECT_NE(vb::GetSetting("Trevim", "Ramdomize", "Seed"), "0.6484358");
-}
-
-TEST_F(DeckAndDeal, GuardarSementeReadsAGarbledValueAsValDoes) {
-  struct Row {
-    const char* stored;
-    double read_as;  // 0: no seed, the fixed first value follows
-  };
-  for (const Row& r : {Row{"abc", 0}, Row{"0", 0}, Row{"  0.0", 0}, Row{"12,5", 12},
-                       Row{"3.5kg", 3.5}, Row{" 7 5", 75}, Row{"-2", -2}}) {
-    vb::InstallSettings(nullptr);
-    vb::SaveSetting("Trevim", "Ramdomize", "Seed", r.stored);
-    const std::uint64_t state = vb::RndState();
-    const std::string expected =
-        r.read_as == 0 ? "0.6484358"
-                       : vb::SingleText(FreshDrawAfterReseed(state, static_cast<float>(r.read_as)));
-    vb::SetRndState(state);
-    GuardarSemente();
-    EXPECT_EQ(vb::GetSetting("Trevim", "Ramdomize", "Seed"), expected) << "'" << r.stored << "'";
-  }
-  vb::SaveSetting("Trevim", "Ramdomize", "Seed", "1e300");
-  EXPECT_FAULT(GuardarSemente(), vb::err::kOverflow);
 }
 
 }  // namespace

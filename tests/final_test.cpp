@@ -159,36 +159,6 @@ TEST_F(FinalRound, DoublePassMovesTheWholeTableToTheCentre) {
   }
 }
 
-// His first stake exactly level with her total: the showdown at once, with his words only when
-// she holds the hand.
-TEST_F(FinalRound, FirstBetExactlyLevelGoesToTheShowdown) {
-  for (bool ela_tem_mao : {true, false}) {
-    SCOPED_TRACE(ela_tem_mao ? "she holds the hand" : "he holds the hand");
-    Fresh();
-    Mesa(100, 100, 10, 10);
-    if (ela_tem_mao) {
-      ElaApostou(10);
-    } else {
-      // She is ahead from earlier and has not bet in this round.
-      MoverFichas(true, 10, true);
-      MaoPlayer = false;
-      PrepararPlayer();
-    }
-    EXPECT_TRUE(Chip(6));
-    vb::ScriptRnd({L});  // nothing is drawn
-    const auto t0 = host->Now();
-    EXPECT_TRUE(Click("CmdAcabei", 0));
-    EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
-    EXPECT_EQ(Fala(false), ela_tem_mao ? "Pago,|Cubro a sua aposta de 10 Fichas" : "|");
-    EXPECT_EQ(static_cast<int>(Fase), 40);
-    EXPECT_EQ(Desde(t0), 0);
-    EXPECT_TRUE(F().FraConfrontarJogos.Visible);
-    EXPECT_FALSE(F().FraApostaPlayer.Visible);
-    EXPECT_EQ(static_cast<int>(MesaApostas), 20);
-    EXPECT_EQ(MesaPote, 20);
-  }
-}
-
 // The exchange ended with every chip already committed: the showdown, and she says nothing.
 TEST_F(FinalRound, AllCommittedAfterTheExchangeGoesStraightToTheShowdown) {
   Mesa(100, 0, 30, 30);
@@ -259,68 +229,6 @@ TEST_F(FinalRound, BetBelowHersGetsTheTurnBack) {
   EXPECT_TRUE(F().FraApostaPlayer.Visible);
   EXPECT_EQ(static_cast<int>(MesaApostas), 40);
   EXPECT_EQ(MesaPote, 20);
-}
-
-// He is all in and short, or she has nothing left against his raise: the first test
-// of VezPokerFinal always takes these tables to a silent showdown, so her own answers are
-// reached only by calling it past that test.
-TEST_F(FinalRound, AllInTablesAreTakenByTheFirstTest) {
-  struct Row {
-    const char* name;
-    int poker, player, apostas, pote;
-    int aposta_poker, aposta_player;
-    bool mao_player_depois;
-    const char* dela;
-    const char* dele;
-    std::int64_t espera;
-  };
-  const Row rows[] = {
-      // He is all in and short: her stake of the round is spoken with a key that has no lines.
-      {"he is all in and short", 100, 0, 40, 30, 15, 20, true, "| 15 Fichas", "|Aposto tudo", 0},
-      // She has nothing left: her side speaks of his stake; she moves TotalApostaPoker, which is 0.
-      {"she has nothing left", 0, 80, 15, 30, 5, 20, false, "|Aposto tudo 20 Fichas", "|", 1000},
-  };
-  for (const Row& r : rows) {
-    for (bool direto : {false, true}) {
-      SCOPED_TRACE(std::string(r.name) + (direto ? ", answered directly" : ", first test"));
-      Fresh();
-      Mesa(r.poker, r.player, r.apostas, r.pote);
-      ApostaPoker = r.aposta_poker;
-      ApostaPlayer = r.aposta_player;
-      MaoPlayer = !r.mao_player_depois;
-      Fase = 31;
-      EfeitosOn = true;
-      vb::ClearMciSent();
-      vb::ScriptRnd({L});
-      const auto t0 = host->Now();
-      if (direto) {
-        ResponderFinal();
-      } else {
-        VezPokerFinal();
-      }
-      EXPECT_EQ(static_cast<int>(Fase), 40);
-      EXPECT_TRUE(F().FraConfrontarJogos.Visible);
-      EXPECT_FALSE(F().FraApostaPlayer.Visible);
-      EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
-      EXPECT_EQ(static_cast<int>(MesaApostas), r.apostas);
-      EXPECT_EQ(MesaPote, r.pote);
-      if (!direto) {
-        EXPECT_EQ(Fala(true), "|");
-        EXPECT_EQ(Fala(false), "|");
-        EXPECT_TRUE(vb::MciSent().empty());
-        EXPECT_EQ(Desde(t0), 0);
-        continue;
-      }
-      EXPECT_EQ(MaoPlayer, r.mao_player_depois);
-      EXPECT_EQ(Caption(F().LabelPokerCaption(0)), "Poker (ZEVA)");
-      EXPECT_EQ(Fala(true), r.dela);
-      EXPECT_EQ(Fala(false), r.dele);
-      EXPECT_EQ(Desde(t0), r.espera);
-      const bool b2 = !r.mao_player_depois;
-      EXPECT_EQ(Enviado("Play MUSICAS\\MELODIAS\\APOSTA.WAV"), b2);
-      EXPECT_EQ(Enviado("Close MUSICAS\\MELODIAS\\APOSTA.WAV"), b2);
-    }
-  }
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -476,32 +384,6 @@ TEST_F(FinalRound, HerAnswerToHisRaise) {
       EXPECT_EQ(Fala(false), "|Ganhou!, então vai levar as 56 Fichas");
     }
   }
-}
-
-// After covering his raise the showdown is open during her last wait: his click there settles
-// the hand inside her turn, before her jingle is closed.
-TEST_F(FinalRound, ShowdownClickedDuringHerLastWaitRunsInsideHerTurn) {
-  Mesa(100, 100, 10, 10);
-  EfeitosOn = true;
-  ElaApostou(10);
-  EXPECT_TRUE(Chip(6));
-  EXPECT_TRUE(Chip(6));
-  vb::ScriptRnd({Humor(0), L});
-  const auto t0 = host->Now();
-  host->QueueAt(t0 + 700, On("CmdConfrontar"));
-  vb::ClearMciSent();
-  EXPECT_TRUE(Click("CmdAcabei", 0));
-  EXPECT_TRUE(host->refused.empty());
-  EXPECT_EQ(static_cast<int>(Fase), 50);
-  EXPECT_EQ(FichasPlayer, 80 + 61);  // his pair of fives beats her nothing
-  const auto& sent = vb::MciSent();
-  const auto ganhei = std::find(sent.begin(), sent.end(), "Play MUSICAS\\MELODIAS\\GANHEI.WAV");
-  const auto fecha = std::find(sent.begin(), sent.end(), "Close MUSICAS\\MELODIAS\\APOSTA.WAV");
-  ASSERT_NE(ganhei, sent.end());
-  ASSERT_NE(fecha, sent.end());
-  EXPECT_LT(ganhei - sent.begin(), fecha - sent.begin());
-  // The showdown's four seconds, from the click; its wait ends hers too.
-  EXPECT_EQ(Desde(t0), 700 + 4000);
 }
 
 }  // namespace

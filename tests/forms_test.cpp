@@ -103,49 +103,6 @@ TEST_F(FormEngine, DisablingTheFocusedControlMovesTheFocusOnAndStillFiresLostFoc
   EXPECT_THROW(pics(1).SetFocus(), vb::RuntimeError);
 }
 
-TEST_F(FormEngine, MissingElementsAndKeysFault) {
-  try {
-    pics(3);
-    FAIL();
-  } catch (const vb::RuntimeError& e) {
-    EXPECT_EQ(e.number(), 340);
-  }
-  vb::ImageList& store = main->AddImageList("Store");
-  store.Add("cards/AC", "AC", "1");
-  try {
-    store.Item("ZZ");
-    FAIL();
-  } catch (const vb::RuntimeError& e) {
-    EXPECT_EQ(e.number(), 35601);
-    EXPECT_STREQ(e.what(), "Elemento não encontrado");
-  }
-  EXPECT_THROW(store.Item(2), vb::RuntimeError);
-  vb::Control& bar = main->Add(vb::Kind::Toolbar, "Bar");
-  bar.images = &store;
-  bar.AddButton("B1");
-  EXPECT_THROW(bar.Button(1).SetImage("F01_45"), vb::RuntimeError);
-  EXPECT_THROW(bar.Button(2), vb::RuntimeError);
-  EXPECT_THROW(bar.Button("B9"), vb::RuntimeError);
-}
-
-TEST_F(FormEngine, ToolbarImageZeroAndPictureCopies) {
-  vb::ImageList& store = main->AddImageList("Store");
-  store.Add("backs/1", "FRENTE");
-  vb::Control& bar = main->Add(vb::Kind::Toolbar, "Bar");
-  bar.images = &store;
-  bar.AddButton();
-  bar.Button(1).SetImage("FRENTE");
-  EXPECT_EQ(bar.Button(1).Image(), "FRENTE");
-  bar.Button(1).SetImage(0);
-  EXPECT_EQ(bar.Button(1).Image(), "0");
-  // A picture keeps the image it was given when the store changes later.
-  pics(0).Picture = store.PictureOf("FRENTE");
-  store.Remove(1);
-  store.Add("backs/7", "FRENTE");
-  EXPECT_EQ(pics(0).Picture.get(), "backs/1");
-  EXPECT_EQ(store.PictureOf("FRENTE"), "backs/7");
-}
-
 TEST_F(FormEngine, AQueuedClickRunsInsideAWaitingHandler) {
   int clicks = 0;
   button->Click = [&] { ++clicks; };

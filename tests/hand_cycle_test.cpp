@@ -302,75 +302,6 @@ TEST_F(HandCycle, ANestedWaitEndsTheOuterOne) {
   }
 }
 
-// Closing a window during a wait: the main form unloads, the seed is kept, and the hand stops
-// where it was.
-TEST_F(HandCycle, ClosingAWindowDuringAWaitUnloadsAndSavesTheSeed) {
-  struct Caso {
-    const char* janela;
-    std::int64_t quando;
-    int cartas_com_som;  // cards laid one by one before the close
-  };
-  for (const Caso& c : {Caso{"FrmBarajando", 1000, 0}, Caso{"Frm_Principal", 5000, 3}}) {
-    SCOPED_TRACE(c.janela);
-    Fresh(kEstadoAbre);
-    g_ajustes_iniciais = [] { EfeitosOn = true; };
-    vb::Input fechar;
-    fechar.type = vb::Input::Type::Close;
-    fechar.form = std::string(c.janela) == "FrmBarajando" ? static_cast<vb::Form*>(&Frm_Barajando())
-                                                          : static_cast<vb::Form*>(&F());
-    host->QueueAt(c.quando, fechar);
-    try {
-      IniciarJogo();
-      ADD_FAILURE() << "the game went on";
-    } catch (const vb::ProgramEnded& e) {
-      EXPECT_EQ(e.how, vb::EndHow::Unloaded);
-    }
-    EXPECT_EQ(host->Now(), c.quando);
-    EXPECT_FALSE(F().Loaded());
-    EXPECT_FALSE(F().Timer1.Enabled);           // stopped by the form's own unload
-    EXPECT_EQ(SementeGuardada(), "0.6484358");  // the first seed ever stored
-    EXPECT_EQ(static_cast<int>(Fase), 0);
-    EXPECT_FALSE(F().FraApostaPlayer.Visible);
-    int cartas = 0;
-    for (const std::string& m : vb::MciSent())
-      if (m.find("CARTAINI") != std::string::npos || m.find("CARTASHOW") != std::string::npos)
-        ++cartas;
-    EXPECT_EQ(cartas, c.cartas_com_som);
-  }
-}
-
-// With the deck shown, the table grows and the deck is laid place by place after the hands.
-TEST_F(HandCycle, TheShownDeckIsLaidAfterTheHands) {
-  struct Caso {
-    bool ver_baralho;
-    std::int64_t fase10;
-    int altura;
-  };
-  for (const Caso& c : {Caso{false, 10700, 7650}, Caso{true, 10700 + 52 * 40, 9210}}) {
-    SCOPED_TRACE(c.ver_baralho);
-    g_momentos.clear();
-    Fresh(kEstadoAbre);
-    static bool ver;
-    ver = c.ver_baralho;
-    g_ajustes_iniciais = [] { VerBaralho = ver; };
-    IniciarJogo();
-    EXPECT_EQ(Momento("fase 10"), c.fase10);
-    EXPECT_EQ(F().Height, c.altura);
-    EXPECT_EQ(F().ToolbarBaraja.Visible.get(), c.ver_baralho);
-    EXPECT_EQ(F().PicturePlayerFace.Picture.get(), F().ImageListExtras.PictureOf("Challenger"));
-    for (int i = 1; i <= 52; ++i)
-      EXPECT_EQ(F().ToolbarBaraja.Button(i).ImageKey(), c.ver_baralho ? "FRENTE" : "") << i;
-    // A smaller deck clears every place and lays only its own.
-    if (c.ver_baralho) {
-      NroCartas = 20;
-      MostrarBaralho(true, true);
-      MostrarBaralho(false, false);
-      for (int i = 1; i <= 52; ++i)
-        EXPECT_EQ(F().ToolbarBaraja.Button(i).ImageKey(), i <= 20 ? Baralho[i] : "") << i;
-    }
-  }
-}
-
 // Her first move of the final round: a bet joins the chips she opened with, which are still on
 // the table; a pass leaves them. Each mood is tried until she has done both.
 TEST_F(HandCycle, HerFinalRoundMoveKeepsHerOpeningChips) {
@@ -409,26 +340,6 @@ TEST_F(HandCycle, HerFinalRoundMoveKeepsHerOpeningChips) {
     EXPECT_EQ(static_cast<int>(Fase), 30);
   }
   EXPECT_EQ(visto.size(), 2u);
-}
-
-// The music clock's debugging line on the table.
-TEST_F(HandCycle, TheMusicClockShowsItsCount) {
-  Comecar(kEstadoAbre);
-  const int antes = MusicTime;
-  host->RunFor(300);
-  EXPECT_EQ(MusicTime, antes + 3);
-  EXPECT_EQ(Caption(F().LblMusicTime),
-            " PokerZEVA  -  Jogo de Poker (Versão 2)  MusicTime = " + std::to_string(antes + 3) +
-                "    TRILHA = 0  Jogosessao = 10");
-}
-
-TEST(GameState, FaseIsATwoCharacterText) {
-  ResetProcess();
-  Fase = 0;
-  EXPECT_EQ(Fase.Text(), "0 ");
-  Fase = 31;
-  EXPECT_EQ(Fase.Text(), "31");
-  EXPECT_TRUE(Fase >= 30 && Fase < 40);
 }
 
 }  // namespace

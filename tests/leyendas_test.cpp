@@ -104,39 +104,6 @@ TEST_F(Speech, DrawnKeyReseedsWithSementeAndLeavesItAlone) {
   EXPECT_FLOAT_EQ(Semente, 0.6484358f);
 }
 
-TEST_F(Speech, KeysWithoutADrawLeaveTheGeneratorAlone) {
-  vb::SetRndState(777);
-  vb::ScriptRnd({0.5f});
-  for (const char* chave : {"TROCARCARTAS", "ELEAPOSTOU", "PEDECARTAS", "Clean", "EUAUMENTE"})
-    FalaDe(true, chave, 3);
-  EXPECT_EQ(vb::RndState(), 777u);
-  EXPECT_EQ(vb::ScriptedRndLeft(), 1u);
-}
-
-TEST_F(Speech, FixedKeysSpotCheck) {
-  MeuNome = "Zé";
-  struct Caso {
-    bool lado;
-    const char* chave;
-    int fichas;
-    Fala fala;
-  };
-  // clang-format off
-  const std::vector<Caso> casos = {
-      {true, "TROCARCARTAS", 0,
-       {"Poker (ZEVA)", "Sua Vez", "Indica Quais Cartas desejas Trocar, clicando-as com o mouse!"}},
-      {false, "JOGOEMPATADO", 0,
-       {"Zé", "", "Incrível...!!! Temos o mesmo jogo Então, o Pote fica na mesa...!"}},
-      {false, "ELEAPOSTOU", 12, {"Zé", "Aposto,", "faço Aposta final de 12 Fichas"}},
-      {false, "ELEGANHOU", 1, {"Zé", "", "Ganhou!, então vai levar as Uma Ficha"}},
-      {true, "EUGANHEI", 30, {"Poker (ZEVA)", "", "Obrigada! Eu amo você, GANHEIII,  30 Fichas"}},
-      {true, "EUPERDI", 0, {"Poker (ZEVA)", "", "Parabéns! Você GANHOU de min, "}},
-      {false, "ELEPERDEU", -2, {"Zé", "", "Peninha, Ammor!, Você perdeu dessa vez"}},
-  };
-  // clang-format on
-  for (const Caso& c : casos) EXPECT_EQ(FalaDe(c.lado, c.chave, c.fichas), c.fala) << c.chave;
-}
-
 TEST_F(Speech, OneChip) {
   struct Caso {
     const char* chave;
@@ -171,26 +138,6 @@ TEST_F(Speech, SevenChipsFollowEveryLineEvenAfterABlank) {
   EXPECT_EQ(Sorteada("EUABRI", 4.5f / 6, 7),
             (Fala{"Poker (ZEVA)", "Amor!", " se quiser jogar... vai valer 7 Fichas"}));
   EXPECT_EQ(Sorteada("EUAUMENTEI", 2.5f / 5, 7).Linha2, "Aumento mais um pouquinho mais 7 Fichas");
-}
-
-TEST_F(Speech, PedeCartas) {
-  MeuNome = "Ana";
-  struct Caso {
-    bool lado;
-    int cartas;
-    Fala fala;
-  };
-  // The count is of cards, and no chips text follows it.
-  // clang-format off
-  const std::vector<Caso> casos = {
-      {true, 1, {"Poker (ZEVA)", "Bem dessa vez,", "Eu Vou ter que pedir 1 Cartinha do Baralho"}},
-      {true, 3, {"Poker (ZEVA)", "Bem dessa vez,", "Eu Vou ter que pedir 3 Cartinhas do Baralho"}},
-      {false, 5, {"Ana", "Bem dessa vez,", "Eu Vou ter que pedir 5 Cartinhas do Baralho"}},
-      {true, 0, {"Poker (ZEVA)", "Mnnn! Estou Servida...", "Esse Meu Jogo esta Ótimo, acredita Amor"}},
-      {false, 0, {"Ana", "", "Não Peço Cartas..."}},
-  };
-  // clang-format on
-  for (const Caso& c : casos) EXPECT_EQ(FalaDe(c.lado, "PEDECARTAS", c.cartas), c.fala) << c.cartas;
 }
 
 TEST_F(Speech, KeyWithNoLinesStillTakesTheChips) {

@@ -119,11 +119,6 @@ TEST_F(DrawPlan, PlansTheDraw) {
   }
 }
 
-TEST_F(DrawPlan, TwentyCardDeckHasOneStraight) {
-  NroCartas = 20;
-  EXPECT_EQ(Planejar(Lista("AC KD QP JC JT"), Lista("DT")), "ES14C13D12P11C10T");
-}
-
 // The floor of the straights follows the deck size: the lowest straight without the ace and the
 // ace-low one are drawn to, one rank lower is not. The 48 deck has its own row.
 TEST_F(DrawPlan, StraightFloorByDeckSize) {
@@ -182,47 +177,6 @@ TEST_F(DrawPlan, ReadsTheSideAndAdvancesThePlace) {
   AnalisarMao(true, posicao, quantas, "");
   EXPECT_EQ(ListaTroca, "FU02C02D02P11D11P");
   EXPECT_EQ(posicao, 19);
-}
-
-TEST_F(DrawPlan, ReadingBeyondTheDeckIsFatal) {
-  for (int i = 1; i <= 5; ++i) CartasPoker[i] = "2C";
-  for (int i = 50; i <= 52; ++i) Baralho[i] = "3D";
-  std::uint8_t posicao = 50;
-  std::uint8_t quantas = 4;
-  EXPECT_THROW(AnalisarMao(true, posicao, quantas, ""), vb::RuntimeError);
-}
-
-TEST_F(DrawPlan, ValorDaCarta) {
-  //                        hand: 1   2   3   4   5     deck: 1   2   3   4   5
-  const std::string pool = std::string("13C09D07P04C02T") + "12C08C03C05D06D";
-  struct Linha {
-    const char* jogo;
-    int maxTroca;
-    bool pode;
-  };
-  const std::vector<Linha> linhas = {
-      {"13C09D", 4, true},            // hand cards only
-      {"", 4, true},                  // nothing needed
-      {"12C", 4, false},              // all from the deck: five thrown away
-      {"12C08C03C05D06D", 5, true},   // ... allowed with MaxTroca 5
-      {"13C09D07P04C12C", 4, true},   // keep 4, the next card
-      {"13C09D07P04C08C", 4, false},  // keep 4, the second card
-      {"13C09D07P08C", 4, true},      // keep 3, the second card
-      {"13C09D03C", 4, true},         // keep 2, the third card
-      {"13C09D07P03C", 4, false},     // keep 3, the third card
-      {"13C05D", 4, true},            // keep 1, the fourth card
-      {"13C06D", 5, false},           // keep 1, the fifth card
-      {"14C13C", 5, false},           // a card not in the pool
-  };
-  for (const Linha& l : linhas) {
-    SCOPED_TRACE(l.jogo);
-    MaxTroca = static_cast<std::uint8_t>(l.maxTroca);
-    EXPECT_EQ(ValorDaCarta(l.jogo, pool), l.pode);
-  }
-  // A shorter pool: the deck cards it holds are all there is.
-  MaxTroca = 4;
-  EXPECT_TRUE(ValorDaCarta("13C09D12C08C", "13C09D07P04C02T12C08C"));
-  EXPECT_FALSE(ValorDaCarta("13C09D03C", "13C09D07P04C02T12C08C"));
 }
 
 // The class of five working-format cards, the ace-low straight being the ace with the deck's four

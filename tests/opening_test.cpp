@@ -152,39 +152,6 @@ TEST_F(OpeningRound, HisFirstEmptyTurnIsAWarningTheSecondASurrender) {
   });
 }
 
-// On the surrender the player's frame opens again for his turn, and closes at once.
-TEST_F(OpeningRound, HisSurrenderOpensHisTurnBeforeClosingIt) {
-  struct Quadro : vb::Listener {
-    std::vector<bool> visto;
-    void Changed(vb::Control& c, vb::Prop p, int) override {
-      if (&c == &Frm_Principal().FraApostaPlayer && p == vb::Prop::Visible)
-        visto.push_back(c.Visible);
-    }
-  } quadro;
-  Montar({.abertura_poker = 30});
-  FecharAposta();
-  PassouSemCobrir = true;
-  vb::Engine::Get().AddListener(&quadro);
-  VezPokerAbertura();
-  vb::Engine::Get().RemoveListener(&quadro);
-  EXPECT_EQ(quadro.visto, (std::vector<bool>{true, false}));
-  EXPECT_EQ(static_cast<int>(Fase), 50);
-}
-
-TEST_F(OpeningRound, BelowHerWithChipsSheRepeatsWhatHeOwes) {
-  JogarTodos({{.nome = "below her with chips",
-               .lance = {.abertura_player = 30, .abertura_poker = 50},
-               .roteiro = {kLinha, kLinha},
-               .humor = -1,
-               .falas = {{true, "EUAUMENTEIABRE", 20}, {false, "CUBRIRAPOSTA", 20}},
-               .sons = {},
-               .fim = Fim::Player,
-               .depois = 50,
-               .fase = 11,
-               .nivel = {50, 0, 0}}});
-  EXPECT_FALSE(PassouSemCobrir);  // a short stake is no empty turn
-}
-
 // The player opened, she had nothing on the table: "CUBRE1".
 TEST_F(OpeningRound, AgainstHisOpeningSheCoversRaisesOrGivesUp) {
   const Lance abriu{.abertura_player = 30, .mao = true};
@@ -519,20 +486,6 @@ TEST_F(OpeningRound, HisCoverOfHerOpeningLetsHerRaiseOrGiveUpThoughLevel) {
   });
 }
 
-// On entry, with no more to stake (the player has no chips and is not above her), she goes to
-// the exchange without a word.
-TEST_F(OpeningRound, NoMoreStakesGoStraightToTheExchange) {
-  JogarTodos({{.nome = "no more stakes",
-               .lance = {.abertura_poker = 30, .mao = true, .pilha_player = {0, 0, 0, 0}},
-               .roteiro = {},
-               .humor = -1,
-               .falas = {},
-               .sons = {},
-               .fim = Fim::Troca,
-               .depois = 30,
-               .nivel = {30, 0, 0}}});
-}
-
 // The replay of a tied showdown: no ante, all stake levels 0, her chips level with his. She
 // is a level table with the amount 0 and either raises or gives up; with nothing more to stake she
 // goes straight to the exchange.
@@ -713,92 +666,6 @@ TEST_F(WholeOpeningRound, HerPassAndThePlayersPassVoidTheHand) {
   EXPECT_EQ(MesaPingo, 2);
   EXPECT_EQ(FichasPlayer, 989);
   EXPECT_EQ(FichasPoker, 989);
-}
-
-// With a short stack under the limit his all-in moves no chip: the table reads a pass, and she
-// opens against it.
-TEST_F(WholeOpeningRound, AStakeThatMovedNothingAndHerOpening) {
-  ajustes = [] {
-    NroFichas = 100;
-    LimiteFichas = 150;
-  };
-  const auto s = Semear([&] {
-    if (MesaApostas != 0) return false;
-    Click("CmdTudo");
-    return MesaApostas > 0;
-  });
-  SCOPED_TRACE(s);
-  EXPECT_EQ(AberturaPlayer, 100);
-  EXPECT_EQ(MesaPote, 0);
-  EXPECT_EQ(FichasPlayer, 100);
-  EXPECT_EQ(static_cast<int>(Fase), 11);
-  EXPECT_TRUE(MaoPlayer);
-  EXPECT_TRUE(F().FraApostaPlayer.Visible);
-  const std::vector<Falado> falas = Falas();
-  ASSERT_GE(falas.size(), 4u);
-  EXPECT_EQ(falas[falas.size() - 4], Ditos({{false, "ELEAPOSTATUDO", 100}})[0]);
-  EXPECT_TRUE(DaChave(falas[falas.size() - 3], {false, "ELEPASSOU"})) << falas[falas.size() - 3];
-  EXPECT_TRUE(DaChave(falas[falas.size() - 2], {true, "EUABRI", AberturaPoker}));
-  EXPECT_TRUE(DaChave(falas[falas.size() - 1], {false, "CUBRIRAPOSTA", AberturaPoker}));
-  EXPECT_EQ(MesaApostas, AberturaPoker);
-}
-
-// She opens, he raises by 20: she raises back, or gives up.
-TEST_F(WholeOpeningRound, APlayersRaiseAndHerRaiseBack) {
-  int x = 0;
-  const auto s = Semear([&] {
-    x = MesaApostas;
-    if (x == 0 || x > 100) return false;
-    Apostar(x + 20);
-    Click("CmdAcabei", 0);
-    return MesaApostas > MesaPote;
-  });
-  SCOPED_TRACE(s);
-  EXPECT_EQ(static_cast<int>(Fase), 11);
-  EXPECT_TRUE(MaoPlayer);
-  EXPECT_EQ(AberturaPlayer, x + 20);
-  EXPECT_EQ(AberturaPoker, x);
-  EXPECT_GT(AumentoAberturaPoker, 20);
-  EXPECT_EQ(MesaApostas, x + AumentoAberturaPoker);
-  const int d = MesaApostas - MesaPote;
-  EXPECT_TRUE(DaChave(Ultima(true), {true, "EUAUMENTEIABRE", d})) << Ultima(true);
-  EXPECT_TRUE(DaChave(Ultima(false), {false, "CUBRIRAPOSTA", d})) << Ultima(false);
-  EXPECT_TRUE(F().FraApostaPlayer.Visible);
-
-  // He covers her raise: the round closes and she draws first.
-  ASSERT_TRUE(Click("CmdPago"));
-  EXPECT_EQ(static_cast<int>(Fase), 20);
-  EXPECT_EQ(MesaPote, MesaApostas);
-  EXPECT_TRUE(PokerJaTrocou);
-}
-
-TEST_F(WholeOpeningRound, HerGivingUp) {
-  int x = 0;
-  const auto s = Semear([&] {
-    x = MesaApostas;
-    if (x == 0 || x > 100) return false;
-    Apostar(x + 20);
-    Click("CmdAcabei", 0);
-    return Fase == 50;
-  });
-  SCOPED_TRACE(s);
-  EXPECT_EQ(Caption(F().LabelPokerMensagem), "Põe Ser, Mão Ruim, eueeh!\r\nVamos Mais Uma ?");
-  EXPECT_EQ(FichasPlayer, 991 + x);
-  EXPECT_EQ(FichasPoker, 989 - x);
-  EXPECT_EQ(MesaPote + MesaApostas + MesaPingo, 0);
-}
-
-// She opens, he ends two turns empty: the second is his surrender.
-TEST_F(WholeOpeningRound, ThePlayerGivingUp) {
-  const auto s = Semear([&] { return MesaApostas > 0 && Click("CmdAcabei", 0); });
-  SCOPED_TRACE(s);
-  ASSERT_TRUE(Click("CmdAcabei", 0));
-  EXPECT_EQ(static_cast<int>(Fase), 50);
-  EXPECT_EQ(FichasPoker, 990);
-  EXPECT_EQ(FichasPlayer, 990);
-  EXPECT_EQ(MesaPote + MesaApostas + MesaPingo, 0);
-  EXPECT_FALSE(F().FraApostaPlayer.Visible);
-  EXPECT_TRUE(F().FraMaisUma.Visible);
 }
 
 }  // namespace

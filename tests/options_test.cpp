@@ -168,31 +168,6 @@ TEST_F(Options, ChipsAreRebuiltOnlyInTheFirstHand) {
   EXPECT_EQ(FichasPlayer, 990);
 }
 
-TEST_F(Options, ANewDeckSizeRefillsTheDeckInOrder) {
-  const std::string tail = Baralho[52];
-  ASSERT_TRUE(Play("menu nrocartas 1"));  // 48 cards
-  for (int i = 1; i <= 48; ++i) EXPECT_EQ(Baralho[i], kCartas[i - 1].code) << i;
-  EXPECT_EQ(Baralho[52], tail);  // places past the deck are left as they were
-  ASSERT_TRUE(Play("more"));     // the next shuffle of 48 starts from that order
-  EXPECT_EQ(NroCartas, 48);
-  for (int i = 1; i <= 5; ++i) {
-    EXPECT_NE(CartasPlayer[i].substr(0, 1), "2");  // no twos in a deck of 48
-    EXPECT_NE(CartasPoker[i].substr(0, 1), "2");
-  }
-}
-
-TEST_F(Options, TheNameIsKeptAsTyped) {
-  const std::pair<const char*, const char*> cases[] = {{"\"João\"", "João"},
-                                                       {"\"\"", "Challenger"},
-                                                       {"\"  \"", "  "},
-                                                       {"\"a # b\" # note", "a # b"}};
-  for (const auto& [text, name] : cases) {
-    ASSERT_TRUE(Play(std::string("menu nome ") + text));
-    EXPECT_EQ(MeuNome, name);
-    EXPECT_EQ(Caption(Frm_Principal().LabelPlayerCaption(0)), name);
-  }
-}
-
 TEST_F(Options, NewGameKeepsTheTieTheHandCountAndTheBack) {
   JogoEmpatado = true;
   Dorso = 3;

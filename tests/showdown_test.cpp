@@ -149,32 +149,6 @@ TEST_F(Showdown, OutcomeOfEachComparison) {
   }
 }
 
-// Each class by its name on her first line, here winning against the lowest nothing.
-TEST_F(Showdown, EveryClassHasItsName) {
-  const struct {
-    Hand5 dela;
-    const char* nome;
-  } rows[] = {
-      {{"AC", "KC", "QC", "JC", "DC"}, "Escada REAL"},
-      {{"9C", "9D", "9P", "9T", "2C"}, "POKER"},
-      {kCorCopas, "Côr"},
-      {{"8C", "8D", "8P", "KT", "KD"}, "FULL"},
-      {{"9C", "8D", "7P", "6T", "5C"}, "Escada"},
-      {kTrio, "TRIO"},
-      {{"KC", "KD", "5P", "5T", "2C"}, "Par Duplo"},
-      {kParCinco, "Par"},
-      {kNadaAs, "Nada valor MAIOR"},
-  };
-  for (const auto& r : rows) {
-    SCOPED_TRACE(r.nome);
-    Fresh();
-    Mesa(100, 100, 20, 20, 1, r.dela, {"7C", "5D", "4P", "3T", "2D"});
-    EXPECT_TRUE(Click("CmdConfrontar"));
-    EXPECT_EQ(Caption(F().LabelPokerCaption(1)), r.nome);
-    EXPECT_EQ(Caption(F().LabelPlayerCaption(1)), "Nada");
-  }
-}
-
 // Only a hand of nothing that loses is drawn over: 1, 3, 5 and 7 of nine keep it face down, and
 // the hand stays taken from her.
 TEST_F(Showdown, HerLosingNothingIsHiddenOnOddDraws) {
@@ -189,32 +163,6 @@ TEST_F(Showdown, HerLosingNothingIsHiddenOnOddDraws) {
     EXPECT_EQ(CartasDelaVisiveis(), !oculta);
     EXPECT_EQ(MaoPlayer, !oculta);
   }
-}
-
-// The draw is made after a reseed with Semente, as every draw of the game is.
-TEST_F(Showdown, TheHiddenHandDrawReseedsFirst) {
-  constexpr std::uint64_t kEstado = 12345;
-  auto oculta = [](int x) { return x % 2 == 1; };
-  float semente = -1;
-  for (int s = 0; s < 50 && semente < 0; ++s) {
-    vb::SetRndState(kEstado);
-    vb::Randomize(static_cast<float>(s));
-    const int com = vb::DrawInt(9);
-    vb::SetRndState(kEstado);
-    const int sem = vb::DrawInt(9);
-    if (oculta(com) != oculta(sem)) semente = static_cast<float>(s);
-  }
-  ASSERT_GE(semente, 0);
-  vb::SetRndState(kEstado);
-  vb::Randomize(semente);
-  const bool esperado = oculta(vb::DrawInt(9));
-
-  Mesa(100, 100, 20, 20, 1, kNadaRei, kParCinco);
-  MaoPlayer = true;
-  Semente = semente;
-  vb::SetRndState(kEstado);
-  EXPECT_TRUE(Click("CmdConfrontar"));
-  EXPECT_EQ(CartasDelaVisiveis(), !esperado);
 }
 
 // A side left with no chips by the showdown ends the game: the message stays up for seven beats
@@ -280,23 +228,6 @@ TEST_F(Showdown, TieWithASideOutOfChipsIsReplayed) {
   EXPECT_EQ(static_cast<int>(MesaPingo), 1);
   EXPECT_EQ(MesaPote, 20);
   EXPECT_EQ(FichasPlayer, 0);
-}
-
-// Outside the showdown the routine does nothing at all.
-TEST_F(Showdown, NothingOutsideItsPhase) {
-  Mesa(100, 100, 20, 20, 1, kTrio, kParCinco);
-  for (int fase : {30, 50}) {
-    Fase = fase;
-    F().Timer1.Enabled = true;
-    const auto t0 = host->Now();
-    ConfrontarJogos();
-    EXPECT_EQ(host->Now(), t0);
-    EXPECT_EQ(static_cast<int>(Fase), fase);
-    EXPECT_TRUE(F().Timer1.Enabled);
-    EXPECT_EQ(MesaPote + MesaApostas + MesaPingo, 41);
-    EXPECT_EQ(Caption(F().LabelPokerCaption(1)), "");
-    EXPECT_FALSE(CartasDelaVisiveis());
-  }
 }
 
 // The ante of his last chip: the hand is dealt, but with no chips he gets no turn, and the game

@@ -1,6 +1,5 @@
-// The table as a model: the controls of Frm_Principal by name, place and colour, the control
-// arrays and their place formulas, the toolbars, the image stores, the menu, the right click, the
-// shuffle animation on the virtual clock and the opponent's faces.
+// The table as a model: every control in its place, the chip places, the keys, the right click,
+// the shuffle animation on the virtual clock and the opponent's faces.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -134,78 +133,10 @@ TEST_F(Table, EveryTableChipHasItsOwnPlace) {
   }
 }
 
-TEST_F(Table, DesignStateOfTheTable) {
+// In a betting turn, with the cards' places hidden, the keys walk the chip places both ways and
+// wrap round through the bar.
+TEST_F(Table, TabWalksTheChipPlacesAndWrapsThroughTheBar) {
   FrmPrincipal& f = Frm_Principal();
-  EXPECT_EQ(f.Caption.get(),
-            "PokerZEVA - Jogo de Poker (Tradicional jogo de cassino a Cinco Cartas)");
-  EXPECT_TRUE(f.is_main);
-  EXPECT_EQ(vb::Engine::Get().MainForm(), &f);
-  EXPECT_EQ(f.LabelMesa.Caption.get(), "Na Mesa...");
-  for (vb::Control* empty :
-       {&f.LabelPokerMoney, &f.LabelPokerFichas, &f.LabelPlayerMoney, &f.LabelPlayerFichas,
-        &f.LabelMesaFichas, &f.LabelMesaMoney, &f.LabelManoMesa, &f.LabelPlayerMesaTotalCoims,
-        &f.LabelPokerMesaTotalCoims, &f.LabelPokerMensagem})
-    EXPECT_EQ(empty->Caption.get(), "") << empty->Id();
-  for (vb::Control* bar :
-       {&f.FraApostaPlayer, &f.FraPedeCartasPlayer, &f.FraMaisUma, &f.FraConfrontarJogos})
-    EXPECT_FALSE(bar->Visible) << bar->Id();
-  EXPECT_FALSE(f.FraPokerMensagem.Visible);
-  EXPECT_FALSE(f.FraPokerMensagem.Enabled);
-  EXPECT_EQ(f.PicturePokerMensagem.Picture.get(), "balao");
-  EXPECT_EQ(f.PicturePokerFace.Tag.get(), "1");
-  EXPECT_EQ(f.CmdConfrontar.Caption.get(), "&Confrontar");
-  EXPECT_EQ(f.CmdMaisUma.Caption.get(), "&Mais UMA");
-  EXPECT_EQ(f.CmdSair(2).Caption.get(), "&EMBORA...");
-  for (int i = 0; i < 4; ++i) {
-    for (const vb::Control* label : {&f.LabelPlayerFichasPOT(i), &f.LabelPokerFichasPOT(i)}) {
-      EXPECT_EQ(label->font.name, "MS Sans Serif");
-      EXPECT_DOUBLE_EQ(label->font.size, 13.5);
-      EXPECT_TRUE(label->font.bold);
-      EXPECT_EQ(label->ForeColor, 0x808000u);
-    }
-  }
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(f.LabelPlayerCartasROT(i).Caption.get(), "1");
-
-  // Timers: the key spring runs at start, the wait does not, the music clock has no interval.
-  EXPECT_EQ(f.TimerKeyPot.Interval, 100);
-  EXPECT_TRUE(f.TimerKeyPot.Enabled);
-  EXPECT_FALSE(f.TimerEspera.Enabled);
-  EXPECT_EQ(f.Timer1.Interval, 0);
-  EXPECT_EQ(f.Timer1.timer_order, 0);
-  EXPECT_EQ(f.TimerKeyPot.timer_order, 1);
-  EXPECT_EQ(f.TimerEspera.timer_order, 3);
-  for (const vb::Control* t : {&f.Timer1, &f.TimerKeyPot, &f.TimerEspera})
-    EXPECT_EQ(t->parent(), &f.FrameToFiler(17));
-}
-
-TEST_F(Table, TabOrderWalksTheChipPlacesThenTheCardsThenTheBars) {
-  FrmPrincipal& f = Frm_Principal();
-  std::vector<std::string> order;
-  for (const vb::Control* c : f.TabOrder()) order.push_back(c->Id());
-  const std::vector<std::string> want = {"PicFichasPlayer(0)",
-                                         "PicFichasPlayer(1)",
-                                         "PicFichasPlayer(2)",
-                                         "PicFichasPlayer(3)",
-                                         "PicCartasPlayer(0)",
-                                         "PicCartasPlayer(1)",
-                                         "PicCartasPlayer(2)",
-                                         "PicCartasPlayer(3)",
-                                         "PicCartasPlayer(4)",
-                                         "CmdPago",
-                                         "CmdTudo",
-                                         "CmdDesfazer(0)",
-                                         "CmdSair(0)",
-                                         "CmdAcabei(0)",
-                                         "CmdDesfazer(1)",
-                                         "CmdSair(1)",
-                                         "CmdAcabei(1)",
-                                         "CmdConfrontar",
-                                         "CmdMaisUma",
-                                         "CmdSair(2)"};
-  EXPECT_EQ(order, want);
-
-  // In a betting turn, with the cards' places hidden: the arrows walk the chips both ways and
-  // wrap round through the bar.
   vb::VirtualHost host;
   vb::Engine::Get().Show(f);
   for (int i = 0; i < 5; ++i) f.PicCartasPlayer(i).Visible = false;
@@ -218,85 +149,6 @@ TEST_F(Table, TabOrderWalksTheChipPlacesThenTheCardsThenTheBars) {
   EXPECT_EQ(f.ActiveControl(), &f.CmdAcabei(0));
   f.SendKeys("{TAB}");
   EXPECT_EQ(f.ActiveControl(), &f.PicFichasPlayer(0));
-}
-
-TEST_F(Table, ToolbarsHaveTheirButtonsAndStores) {
-  FrmPrincipal& f = Frm_Principal();
-  for (vb::Control* bar : {&f.ToolbarPokerCoins, &f.ToolbarPlayerCoins}) {
-    SCOPED_TRACE(bar->Name());
-    ASSERT_EQ(bar->Buttons().size(), 8u);
-    EXPECT_EQ(bar->images, &f.ImageListPotes);
-    const char* keys[] = {"F01", "F05", "F10", "F50"};
-    for (int i = 0; i < 4; ++i) {
-      EXPECT_EQ(bar->Button(keys[i]).Index(), 2 * (i + 1));
-      EXPECT_EQ(bar->Button(2 * i + 1).Key(), "");
-    }
-  }
-  for (vb::Control* bar : {&f.ToolbarPoker, &f.ToolbarPlayer}) {
-    EXPECT_EQ(bar->Buttons().size(), 10u);
-    EXPECT_EQ(bar->images, &f.ImageListBarajas);
-  }
-  EXPECT_EQ(f.ToolbarBaraja.Buttons().size(), 52u);
-  EXPECT_EQ(f.ToolbarBaraja.images, &f.ImageListBarajas);
-  EXPECT_EQ(f.ToolbarMesa.images, &f.ImageListFundos);
-  // No button shows a picture at design.
-  for (vb::Control* bar : {&f.ToolbarPokerCoins, &f.ToolbarPlayerCoins, &f.ToolbarPoker,
-                           &f.ToolbarPlayer, &f.ToolbarBaraja})
-    for (const auto& b : bar->Buttons()) EXPECT_EQ(b->Image(), "0") << bar->Name();
-}
-
-TEST_F(Table, ImageStoresHoldEveryKeyInOrder) {
-  FrmPrincipal& f = Frm_Principal();
-
-  // The cards in deck order with their tags, then the two backs in force.
-  ASSERT_EQ(f.ImageListBarajas.Count(), 54);
-  for (int n = 1; n <= 52; ++n) {
-    const vb::StoredImage& img = f.ImageListBarajas.Item(n);
-    const std::string code(kCartas[n - 1].code);
-    EXPECT_EQ(img.key, code);
-    EXPECT_EQ(img.tag, std::to_string(n));
-    EXPECT_EQ(img.picture, "barajas/" + code);
-  }
-  EXPECT_EQ(f.ImageListBarajas.Item(1).key, "AC");
-  EXPECT_EQ(f.ImageListBarajas.Item(52).key, "2T");
-  EXPECT_EQ(f.ImageListBarajas.Item(53).key, "FRENTE");
-  EXPECT_EQ(f.ImageListBarajas.Item(54).key, "DORSO");
-  EXPECT_EQ(f.ImageListBarajas.PictureOf("FRENTE"), f.ImageListFundos.PictureOf(1));
-  EXPECT_EQ(f.ImageListBarajas.PictureOf("DORSO"), f.ImageListFundos.PictureOf(2));
-
-  // The stores read by position.
-  struct ByPosition {
-    vb::ImageList* store;
-    int count;
-    const char* folder;
-  };
-  for (const ByPosition& s : {ByPosition{&f.ImageListFundos, 22, "fundos/"},
-                              ByPosition{&f.ImageListFACES, 27, "faces/"}}) {
-    ASSERT_EQ(s.store->Count(), s.count) << s.store->Name();
-    for (int n = 1; n <= s.count; ++n)
-      EXPECT_EQ(s.store->PictureOf(n), s.folder + std::to_string(n));
-  }
-
-  // The piles: 31 counts of each denomination, "00" the empty place.
-  ASSERT_EQ(f.ImageListPotes.Count(), 124);
-  int position = 0;
-  for (const std::string prefix : {"F01_", "F05_", "F10_", "F50_"}) {
-    for (int n = 0; n <= 30; ++n) {
-      const std::string key = prefix + (n < 10 ? "0" : "") + std::to_string(n);
-      EXPECT_EQ(f.ImageListPotes.Item(++position).key, key);
-      EXPECT_EQ(f.ImageListPotes.PictureOf(key), "potes/" + key);
-    }
-  }
-
-  // The extras, with the one unkeyed image in second place.
-  const std::vector<std::string> extras = {"Challenger", "",        "SetaAcima", "SetaAbaixo",
-                                           "Ficha50",    "Ficha10", "Ficha5",    "Ficha1"};
-  ASSERT_EQ(f.ImageListExtras.Count(), 8);
-  for (int n = 1; n <= 8; ++n) {
-    EXPECT_EQ(f.ImageListExtras.Item(n).key, extras[n - 1]);
-    EXPECT_EQ(f.ImageListExtras.PictureOf(n),
-              "extras/" + (extras[n - 1].empty() ? std::string("Extra2") : extras[n - 1]));
-  }
 }
 
 TEST_F(Table, EveryPictureNamesAnArtworkFile) {
@@ -317,114 +169,18 @@ TEST_F(Table, EveryPictureNamesAnArtworkFile) {
 
 TEST_F(Table, MissingKeysAndElementsFault) {
   FrmPrincipal& f = Frm_Principal();
+  // Each store and array ends where the table needs it to: one step further faults.
   const std::vector<std::pair<int, std::function<void()>>> faults = {
       {vb::err::kElementNotFound, [&] { f.ImageListPotes.Item("F01_31"); }},
-      {vb::err::kElementNotFound, [&] { f.ImageListBarajas.Item("DORSO6"); }},
-      {vb::err::kElementNotFound, [&] { f.ImageListExtras.Item(""); }},
       {vb::err::kIndexOutOfBounds, [&] { f.ImageListFACES.Item(28); }},
-      {vb::err::kIndexOutOfBounds, [&] { f.ImageListFundos.Item(0); }},
-      // A count of 45 or -1 names no pile.
-      {vb::err::kElementNotFound, [&] { f.ToolbarPlayerCoins.Button(2).SetImage("F01_45"); }},
       {vb::err::kElementNotFound, [&] { f.ToolbarPlayerCoins.Button(2).SetImage("F01_-1"); }},
-      {vb::err::kElementNotFound, [&] { f.ToolbarPokerCoins.Button("F20"); }},
-      {vb::err::kIndexOutOfBounds, [&] { f.ToolbarPoker.Button(11); }},
       {vb::err::kArrayElement, [&] { f.PicturePlayerCoin(120); }},
       {vb::err::kArrayElement, [&] { f.PictureCoin(48); }},
-      {vb::err::kArrayElement, [&] { f.PicFichasPlayer(4); }},
-      {vb::err::kArrayElement, [&] { f.CmdAcabei(2); }},
-      {vb::err::kArrayElement, [&] { f.FrameToFiler(19); }},
   };
   for (std::size_t i = 0; i < faults.size(); ++i)
     EXPECT_EQ(ErrorOf(faults[i].second), faults[i].first) << "case " << i;
   // The first 120 chip places are all there.
   EXPECT_FAULT(f.PicturePlayerCoin(119), 0);
-}
-
-TEST_F(Table, ButtonImagesAndPicturesReadBackAsSet) {
-  FrmPrincipal& f = Frm_Principal();
-  vb::ToolbarButton& pile = f.ToolbarPlayerCoins.Button("F05");
-  pile.SetImage("F05_17");
-  EXPECT_EQ(pile.Image(), "F05_17");
-  pile.SetImage(0);
-  EXPECT_EQ(pile.Image(), "0");
-  EXPECT_EQ(vb::Val(pile.Image().substr(pile.Image().size() >= 2 ? pile.Image().size() - 2 : 0)),
-            0);
-
-  // A picture is a copy: it stays when the store changes under it, as MnuFundos changes it.
-  vb::Control& chip = f.PicturePlayerCoin(0);
-  chip.Picture = f.ImageListBarajas.PictureOf("DORSO");
-  chip.Tag = "50";
-  f.ImageListBarajas.Remove(54);
-  f.ImageListBarajas.Remove(53);
-  f.ImageListBarajas.Add(f.ImageListFundos.PictureOf(7), "FRENTE");
-  f.ImageListBarajas.Add(f.ImageListFundos.PictureOf(8), "DORSO");
-  EXPECT_EQ(chip.Picture.get(), "fundos/2");
-  EXPECT_EQ(f.ImageListBarajas.PictureOf("DORSO"), "fundos/8");
-  // Hidden, it keeps its tag and picture.
-  chip.Visible = false;
-  EXPECT_EQ(chip.Tag.get(), "50");
-  EXPECT_EQ(chip.Picture.get(), "fundos/2");
-}
-
-TEST_F(Table, MenuTreeInOrder) {
-  FrmPrincipal& f = Frm_Principal();
-  struct Entry {
-    std::string name, caption;
-    int level;
-  };
-  const std::vector<Entry> want = {
-      {"MnuPartida", "Partida", 1},
-      {"MnuNova", "Nova", 2},
-      {"MnuCarregar", "Carregar", 2},
-      {"MnuSalvar", "Salvar", 2},
-      {"MnuConfiguração", "Configuração", 1},
-      {"MnuNroCartas", "Numero de Cartas", 2},
-      {"MnuNroFichas", "Numero de Fichas", 2},
-      {"MnuTroca", "Quantas Cartas Troca", 2},
-      {"L1", "-", 2},
-      {"MnuVFicha", "Valor da Ficha", 2},
-      {"MnuNome", "Meu Nome", 2},
-      {"MnuFundos", "Mudar Fundo das Cartas", 2},
-      {"L2", "-", 1},
-      {"MnuLimite", "Limite na Apertura", 1},
-      {"MnuFullxCor", "Full Mata Côr", 1},
-      {"MnuTrioXEscada", "Trio Mata Escada", 1},
-      {"L3", "-", 1},
-      {"MnuMusica", "Musica", 1},
-      {"MnuEfeitos", "Efeitos Sonoros", 1},
-      {"MnuTrapassa", "Trapassa", 1},
-      {"MnuVerBaralho", "Ver o Baralho", 1},
-      {"MnuVerCartas", "Ver as Cartas", 1},
-      {"L4", "-", 1},
-      {"MnuAbout", "Creditos", 1},
-      {"L5", "-", 1},
-      {"MnuSair", "Sair", 1},
-  };
-  std::vector<Entry> got;
-  std::function<void(const vb::Control&, int)> walk = [&](const vb::Control& menu, int level) {
-    for (const vb::Control* c : menu.children()) {
-      EXPECT_EQ(c->kind(), vb::Kind::Menu) << c->Name();
-      got.push_back({c->Name(), c->Caption.get(), level});
-      walk(*c, level + 1);
-    }
-  };
-  EXPECT_EQ(f.MnuPopup.Caption.get(), "PopUp");
-  EXPECT_EQ(f.MnuPopup.parent(), nullptr);
-  walk(f.MnuPopup, 1);
-  ASSERT_EQ(got.size(), want.size());
-  for (std::size_t i = 0; i < want.size(); ++i) {
-    EXPECT_EQ(got[i].name, want[i].name);
-    EXPECT_EQ(got[i].caption, want[i].caption) << want[i].name;
-    EXPECT_EQ(got[i].level, want[i].level) << want[i].name;
-    const vb::Control& m = *f.Find(want[i].name);
-    const bool cheat = want[i].name == "MnuVerBaralho" || want[i].name == "MnuVerCartas";
-    // No saved games: "Carregar" and "Salvar" are left out of the menu.
-    const bool left_out = want[i].name == "MnuCarregar" || want[i].name == "MnuSalvar";
-    EXPECT_EQ(m.Visible.get(), !cheat && !left_out) << want[i].name;
-    EXPECT_EQ(m.Enabled.get(), !cheat) << want[i].name;
-    EXPECT_FALSE(m.Checked) << want[i].name;
-  }
-  EXPECT_EQ(&f.MnuConfiguração, f.Find("MnuConfiguração"));
 }
 
 TEST_F(Table, RightClickOpensTheMenuOnlyBetweenHands) {

@@ -238,28 +238,6 @@ TEST_F(Exchange, HeDrawsFiveFirstAndHerCardsStartAtPlace16) {
   EXPECT_EQ(pedido, std::vector<std::string>(2, "Eu Vou ter que pedir 5 Cartinhas do Baralho"));
 }
 
-// "CAR" gives 0: she stands pat, says so, and every deck place stays for him.
-TEST_F(Exchange, StandingPatNoCardMovesAndTheDeckStaysForHim) {
-  Comecar(kEstadoAbre);
-  Mesa({"9C", "9D", "7C", "4C", "2C"}, {"AD", "KD", "QP", "8T", "6P"},
-       {"KC", "5D", "3T", "QD", "JP"});
-  vb::ScriptRnd({Humor(0)});  // a pair, mood 0: none
-  const std::int64_t t0 = host->Now();
-  EntrarTroca();
-  EXPECT_EQ(static_cast<int>(CartasTrocaPoker), 0);
-  EXPECT_EQ(ListaTroca, JogoPoker + ValoresPoker);
-  EXPECT_EQ(Mao(CartasPoker), (std::vector<std::string>{"9C", "9D", "7C", "4C", "2C"}));
-  for (int pos = 1; pos <= 5; ++pos) EXPECT_FALSE(Dorso(pos)) << pos;
-  EXPECT_EQ(g_linha1_dela, "Mnnn! Estou Servida...");
-  EXPECT_EQ(g_falas_dela.back(), "Esse Meu Jogo esta Ótimo, acredita Amor");
-  EXPECT_EQ(host->Now() - t0, 5000 + 1500);
-
-  ASSERT_TRUE(Click("PicCartasPlayer", 3));
-  ASSERT_TRUE(Click("PicCartasPlayer", 4));
-  ASSERT_TRUE(Click("CmdAcabei", 1));
-  EXPECT_EQ(Mao(CartasPlayer), Ordenada({"AD", "KD", "QP", "KC", "5D"}));
-}
-
 // MaxTroca 1: a second mark is refused, by card or by toolbar button, and each click is heard.
 // He takes place 11, she place 12.
 TEST_F(Exchange, WithMaxTroca1ASecondMarkIsUndone) {
@@ -293,32 +271,6 @@ TEST_F(Exchange, WithMaxTroca1ASecondMarkIsUndone) {
   EXPECT_EQ(Mao(CartasPoker), Ordenada({"KC", "9C", "7C", "4C", "2C"}));
   EXPECT_EQ(Efeitos("CARTAINI"), 1);
   EXPECT_EQ(Efeitos("CARTASHOW"), 1);
-}
-
-// The mark count starts again with each exchange: the marks of one hand don't eat into the next.
-TEST_F(Exchange, MarksAreCountedAfreshInTheNextHand) {
-  Comecar(kEstadoPassa);
-  MaxTroca = 2;
-  EntrarTroca();
-  for (int i = 0; i <= 2; ++i) ASSERT_TRUE(Click("PicCartasPlayer", i));
-  EXPECT_EQ(static_cast<int>(MarcadasTroca), 2);
-  EXPECT_FALSE(Marcada(2));
-  vb::ScriptRnd({Humor(0)});
-  ASSERT_TRUE(Click("CmdAcabei", 1));
-  EXPECT_EQ(static_cast<int>(CartasTrocaPlayer), 2);
-
-  // The hand ends; the next one is his again by the count, and he draws first once more.
-  Fase = 50;
-  F().FraApostaPlayer.Visible = false;
-  F().FraMaisUma.Visible = true;
-  F().FraMaisUma.Enabled = true;
-  ASSERT_TRUE(Click("CmdMaisUma"));
-  ASSERT_EQ(static_cast<int>(NroMao), 3);
-  EntrarTroca();
-  EXPECT_EQ(static_cast<int>(MarcadasTroca), 0);
-  for (int i = 4; i >= 2; --i) ASSERT_TRUE(Click("PicCartasPlayer", i));
-  EXPECT_EQ(static_cast<int>(MarcadasTroca), 2);
-  for (int i = 0; i <= 4; ++i) EXPECT_EQ(Marcada(i), i >= 3) << i;
 }
 
 // Over many random deals, deck sizes, house rules, counts and orders: after her exchange every
