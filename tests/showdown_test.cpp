@@ -138,8 +138,8 @@ TEST_F(Showdown, OutcomeOfEachComparison) {
     const char* mensagem[] = {
         "Eu te Ganhei...Siiiiim!\r\nQue Peninha, Meu Garotão...!\r\nOutra Vez ?",
         "Parabéns, Você Ganhou...\r\nAté que chegou finalmente tua vez de ganhar!\r\nContinuamos ?",
-        "Casquinhas!, Fico Tudo na MESA, eueeh!\r\nNa Proxima Mão, Quem vai levar esse "
-        "bolão!\r\nVamos Mais Uma ?"};
+        ("Casquinhas!, Fico Tudo na MESA, eueeh!\r\nNa Proxima Mão, Quem vai levar esse "
+         "bolão!\r\nVamos Mais Uma ?")};
     EXPECT_EQ(Caption(F().LabelPokerMensagem), mensagem[r.vence]);
     EXPECT_TRUE(F().FraMaisUma.Visible);
     EXPECT_TRUE(F().FraPokerMensagem.Visible);
