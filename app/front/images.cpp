@@ -53,20 +53,26 @@ QString PictureFile(const std::string& id) {
   return ImageFolder() + QLatin1Char('/') + QString::fromStdString(id) + QStringLiteral(".png");
 }
 
-std::string LoadPictures(const std::vector<std::string>& ids, qreal ratio) {
-  for (const std::string& id : ids)
-    if (Picture(id, 1.0, 1.0).isNull()) return id;
-  if (ratio != 1.0)
-    for (const std::string& id : ids)
-      if (Picture(id, 1.0, ratio).isNull()) return id;
-  return std::string();
+QString UnreadablePicture(const std::vector<std::string>& ids, qreal ratio) {
+  for (const std::string& id : ids) {
+    // Every drawing there is must read whole: the loader would pass over a damaged one in
+    // silence and draw from another density.
+    const QString base = ImageFolder() + QLatin1Char('/') + QString::fromStdString(id);
+    for (const Density& d : kDensities) {
+      const QString path = base + QLatin1String(d.suffix);
+      if (QFile::exists(path) && QImage(path).isNull()) return path;
+    }
+    if (Picture(id, 1.0, 1.0).isNull() || (ratio != 1.0 && Picture(id, 1.0, ratio).isNull()))
+      return PictureFile(id);
+  }
+  return QString();
 }
 
-QString PictureFaultText(const std::string& id) {
+QString PictureFaultText(const QString& file) {
   return QStringLiteral(
              "Não foi possível ler uma figura do jogo:\n\n%1\n\nAs figuras são procuradas na "
              "pasta %2\n\nO arquivo falta ou está danificado. Instale o PokerZEVA de novo.")
-      .arg(QDir::toNativeSeparators(PictureFile(id)), QDir::toNativeSeparators(ImageFolder()));
+      .arg(QDir::toNativeSeparators(file), QDir::toNativeSeparators(ImageFolder()));
 }
 
 QSize PictureSize(const std::string& id) {

@@ -27,21 +27,12 @@ QSize PictureSize(const std::string& id);
 // The file of a picture's natural size, whose name the player is told when it cannot be read.
 QString PictureFile(const std::string& id);
 
-// Makes every picture of `ids` at the table's first size, for a screen of `ratio`. Returns the
-// first id that cannot be made (its files missing, damaged, not pictures), or "".
-std::string LoadPictures(const std::vector<std::string>& ids, qreal ratio);
+// Reads every drawing of every picture of `ids` and makes each at the table's first size, for a
+// screen of `ratio`. Returns the first file that cannot be read (missing, damaged, not a picture),
+// or an empty text.
+QString UnreadablePicture(const std::vector<std::string>& ids, qreal ratio);
 
-// The message of a picture that cannot be read: the file and the folder where it was looked for.
-QString PictureFaultText(const std::string& id);
-
-// The file a picture is read from.
-QString PictureFile(const std::string& id);
-
-// Reads every picture of `ids` now, for screens of `ratio`, so that no file is read while the game
-// runs. Returns the first id that cannot be read (missing, damaged, not a picture), or "".
-std::string LoadPictures(const std::vector<std::string>& ids, qreal ratio);
-
-// The message of a picture that cannot be read: the file and the folder where it was looked for.
-QString PictureFaultText(const std::string& id);
+// The message of a picture file that cannot be read, with the folder where it was looked for.
+QString PictureFaultText(const QString& file);
 
 }  // namespace front

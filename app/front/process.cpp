@@ -20,10 +20,10 @@ namespace front {
 
 bool PicturesAtHand() {
   const QScreen* screen = QGuiApplication::primaryScreen();
-  const std::string missing =
-      LoadPictures(PicturesDoJogo(), screen ? screen->devicePixelRatio() : 1);
-  if (missing.empty()) return true;
-  const QString text = PictureFaultText(missing);
+  const QString file =
+      UnreadablePicture(PicturesDoJogo(), screen ? screen->devicePixelRatio() : 1.0);
+  if (file.isEmpty()) return true;
+  const QString text = PictureFaultText(file);
   std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
   QMessageBox box(QMessageBox::Critical, QStringLiteral("PokerZEVA"), text, QMessageBox::Ok);
   box.exec();

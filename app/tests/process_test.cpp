@@ -58,13 +58,16 @@ TEST(StartPictures, AMissingOrDamagedPictureStopsTheStartWithStatusOne) {
   struct Case {
     const char* what;
     const char* file;
-    QByteArray content;  // null: the file is removed
+    QByteArray content;  // null: the file is removed, or cut to its first `keep` bytes
+    int keep;
   };
   const Case cases[] = {
-      {"intact", nullptr, QByteArray()},
-      {"missing", "faces/7.png", QByteArray()},
-      {"cut short", "potes/F05_12.png", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR", 16)},
-      {"random bytes", "barajas/AC.png", QByteArray(300, '\x5a')},
+      {"intact", nullptr, QByteArray(), 0},
+      {"missing", "faces/7.png", QByteArray(), 0},
+      {"cut in its header", "potes/F05_12.png", QByteArray(), 16},
+      {"cut after its header", "potes/F10_03.png", QByteArray(), 200},
+      {"a drawing for dense screens cut", "barajas/KD@4x.png", QByteArray(), 300},
+      {"random bytes", "barajas/AC.png", QByteArray(300, '\x5a'), 0},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
@@ -73,9 +76,12 @@ TEST(StartPictures, AMissingOrDamagedPictureStopsTheStartWithStatusOne) {
       CopyPictures(dir.path());
       if (c.file) {
         const QString file = dir.path() + QLatin1Char('/') + QLatin1String(c.file);
-        QFile::remove(file);
         QFile f(file);
-        if (!c.content.isNull() && f.open(QIODevice::WriteOnly)) f.write(c.content);
+        QByteArray content = c.content;
+        if (c.keep > 0 && f.open(QIODevice::ReadOnly)) content = f.read(c.keep);
+        f.close();
+        QFile::remove(file);
+        if (!content.isNull() && f.open(QIODevice::WriteOnly)) f.write(content);
       }
       front::SetImageFolder(dir.path());
       AnswerTheBox();
@@ -86,7 +92,8 @@ TEST(StartPictures, AMissingOrDamagedPictureStopsTheStartWithStatusOne) {
     } else {
       EXPECT_EXIT(start(), testing::ExitedWithCode(1),
                   std::string("box: PokerZEVA \\| Não foi possível ler uma figura do jogo://.*/") +
-                      c.file + "//As figuras são procuradas na pasta /");
+                      QRegularExpression::escape(QLatin1String(c.file)).toStdString() +
+                      "//As figuras são procuradas na pasta /");
     }
   }
 }
