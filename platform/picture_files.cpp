@@ -71,6 +71,16 @@ std::string PictureFile(const std::string& folder, const std::string& id) {
   return base + ".png";
 }
 
+std::vector<std::string> PictureFiles(const std::string& folder, const std::string& id) {
+  std::vector<std::string> files{PictureFile(folder, id)};
+  std::error_code ec;
+  for (const char* dense : {"@2x.png", "@4x.png"}) {
+    const std::string file = folder + "/" + id + dense;
+    if (std::filesystem::exists(file, ec)) files.push_back(file);
+  }
+  return files;
+}
+
 std::string PictureFault(const std::string& path) {
   std::error_code ec;
   if (!std::filesystem::exists(path, ec)) return "missing";

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -49,6 +50,10 @@ TEST(PictureFiles, AWholePictureAndWhatIsWrongWithOthers) {
   EXPECT_EQ(vb::PictureFile(dir.string(), "AC"), (dir / "AC.png").string());
   EXPECT_EQ(vb::PictureFile(dir.string(), "drawn"), (dir / "drawn.svg").string());
   EXPECT_EQ(vb::PictureFile(dir.string(), "none"), (dir / "none.png").string());
+  // With the denser drawings that exist.
+  std::ofstream((dir / "AC@4x.png").string(), std::ios::binary) << png;
+  EXPECT_EQ(vb::PictureFiles(dir.string(), "AC"),
+            (std::vector<std::string>{(dir / "AC.png").string(), (dir / "AC@4x.png").string()}));
   std::filesystem::remove_all(dir);
 }
 

@@ -19,12 +19,13 @@ bool PicturesAtHand() {
   const std::string folder =
       (program.parent_path().parent_path() / "images").lexically_normal().string();
   for (const std::string& id : PicturesDoJogo()) {
-    const std::string file = vb::PictureFile(folder, id);
-    const std::string fault = vb::PictureFault(file);
-    if (!fault.empty()) {
-      std::cerr << "pokerzeva-replay: the picture " << file << " (" << fault
-                << "); pictures are looked for in " << folder << "\n";
-      return false;
+    for (const std::string& file : vb::PictureFiles(folder, id)) {
+      const std::string fault = vb::PictureFault(file);
+      if (!fault.empty()) {
+        std::cerr << "pokerzeva-replay: the picture " << file << " (" << fault
+                  << "); pictures are looked for in " << folder << "\n";
+        return false;
+      }
     }
   }
   return true;
