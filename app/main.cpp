@@ -9,6 +9,7 @@
 #include "core/start.h"
 #include "front/front.h"
 #include "front/guard.h"
+#include "front/process.h"
 #include "front/qt_host.h"
 #include "front/qt_settings.h"
 #include "front/sound_player.h"
@@ -31,12 +32,15 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(icon);
   // Windows come and go with the game's forms; only the game ends the program.
   QApplication::setQuitOnLastWindowClosed(false);
+  // No table played blind: every picture is read before the first window.
+  if (!front::PicturesAtHand()) return 1;
 
   front::QtSettingsStore settings;
   vb::InstallSettings(&settings);
   front::QtHost host;
   front::Front screen;
   front::SoundPlayer sound(front::SoundPlayer::kGameSink);
+  front::EndSignals end_signals;
   vb::SetAppPath(QCoreApplication::applicationDirPath().toStdString());
   vb::SetRndState(vb::StartStateFromEnvironment());
 

@@ -137,7 +137,6 @@ class Engine {
     bool got;
   };
   std::vector<FocusEvent> focus_events_;
-  bool running_focus_events_ = false;
 };
 
 // The runtime's DoEvents: hand control to the event queue once.

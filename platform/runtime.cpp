@@ -91,11 +91,21 @@ double Val(std::string_view text) {
 }
 
 std::string FormatMoney(double value) {
-  // Two decimals, halves away from zero: round the cents as a whole number.
+  if (!std::isfinite(value)) return value < 0 ? "-inf" : std::isnan(value) ? "nan" : "inf";
+  // Two decimals, halves away from zero: round the cents as a whole number. Beyond 2^53 cents a
+  // double holds no fraction at all, and its digits are written as they stand.
+  std::string digits;
+  int frac = 0;
   const double cents = std::round(std::fabs(value) * 100.0);
-  const auto whole = static_cast<long long>(cents / 100);
-  const auto frac = static_cast<int>(cents - static_cast<double>(whole) * 100);
-  std::string digits = std::to_string(whole);
+  if (cents < 9e15) {
+    const auto whole = static_cast<long long>(cents / 100);
+    frac = static_cast<int>(cents - static_cast<double>(whole) * 100);
+    digits = std::to_string(whole);
+  } else {
+    char buf[400];
+    std::snprintf(buf, sizeof buf, "%.0f", std::fabs(value));
+    digits = buf;
+  }
   std::string grouped;
   const int n = static_cast<int>(digits.size());
   for (int i = 0; i < n; ++i) {

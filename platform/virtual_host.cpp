@@ -5,7 +5,7 @@
 
 namespace vb {
 
-VirtualHost::VirtualHost() : previous_(nullptr) {
+VirtualHost::VirtualHost() {
   Engine::Get().SetHost(this);
 }
 
@@ -66,7 +66,12 @@ void VirtualHost::ServeEvents() {
   ServeDue();
 }
 
+bool VirtualHost::CanRunFor(std::int64_t ms) const {
+  return ms >= 0 && ms <= kLatest - now_;
+}
+
 void VirtualHost::RunFor(std::int64_t ms) {
+  if (!CanRunFor(ms)) throw std::out_of_range("the virtual clock cannot run that far");
   const std::int64_t end = now_ + ms;
   for (;;) {
     ServeDue();

@@ -30,7 +30,10 @@ class VirtualHost : public Host {
   void QueueAtNextWait(Input input);
 
   // At the top level (no handler running): let the clock run for `ms`, serving timers and queued
-  // input as they come due.
+  // input as they come due. The clock stops short of kLatest, so that no sum of a moment and a
+  // timer's interval can overflow; a run beyond it is refused (std::out_of_range).
+  static constexpr std::int64_t kLatest = std::int64_t{1} << 60;  // 36 million years
+  bool CanRunFor(std::int64_t ms) const;
   void RunFor(std::int64_t ms);
 
   // A scripted player at a modal form: while one is up, each wait first asks the driver to act
@@ -50,7 +53,6 @@ class VirtualHost : public Host {
   std::int64_t now_ = 0;
   std::deque<Input> next_wait_;
   std::vector<Timed> timed_;
-  Host* previous_;
 };
 
 }  // namespace vb

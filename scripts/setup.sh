@@ -9,6 +9,7 @@ PACKAGES=(
   qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgl-dev
   gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-plugins-ugly gstreamer1.0-libav
   fonts-dejavu-core fonts-liberation
+  clang libclang-rt-14-dev
 )
 
 missing=()

@@ -331,8 +331,9 @@ FrmPrincipal::FrmPrincipal() : vb::Form("Frm_Principal") {
   // --- right click
   MouseDown = Form_MouseDown;
   for (const auto& [index, filler] : FrameToFiler.items()) {
-    filler->MouseDown = [index](int Button, int Shift) {
-      FrameToFiler_MouseDown(index, Button, Shift);
+    const int Index = index;
+    filler->MouseDown = [Index](int Button, int Shift) {
+      FrameToFiler_MouseDown(Index, Button, Shift);
     };
   }
   ToolbarPlayerCoins.MouseDown = ToolbarPlayerCoins_MouseDown;

@@ -1,6 +1,7 @@
 #include "table/image_stores.h"
 
-#include <array>
+#include <algorithm>
+#include <functional>
 
 #include "core/cards.h"
 
@@ -14,48 +15,98 @@ std::string PictureFace(int n) {
   return "faces/" + std::to_string(n);
 }
 
-void EncherImageListBarajas(vb::ImageList& store) {
+namespace {
+
+// Each store's contents are told once, image by image, to whoever fills or checks it.
+using Guardar = std::function<void(std::string picture, std::string key, std::string tag)>;
+
+void Barajas(const Guardar& guardar) {
   for (const CardInfo& carta : kCartas) {
     const std::string code(carta.code);
-    store.Add(PictureCarta(code), code, carta.TagText());
+    guardar(PictureCarta(code), code, carta.TagText());
   }
-  store.Add(PictureFundo(1), "FRENTE");
-  store.Add(PictureFundo(2), "DORSO");
+  guardar(PictureFundo(1), "FRENTE", "");
+  guardar(PictureFundo(2), "DORSO", "");
 }
 
-void EncherImageListFundos(vb::ImageList& store) {
-  for (int n = 1; n <= 22; ++n) store.Add(PictureFundo(n));
+void Fundos(const Guardar& guardar) {
+  for (int n = 1; n <= 22; ++n) guardar(PictureFundo(n), "", "");
 }
 
-void EncherImageListPotes(vb::ImageList& store) {
+void Potes(const Guardar& guardar) {
   for (const char* valor : {"F01", "F05", "F10", "F50"}) {
     for (int n = 0; n <= 30; ++n) {
       const std::string key = std::string(valor) + (n < 10 ? "_0" : "_") + std::to_string(n);
-      store.Add("potes/" + key, key);
+      guardar("potes/" + key, key, "");
     }
   }
 }
 
-void EncherImageListExtras(vb::ImageList& store) {
-  store.Add("extras/Challenger", "Challenger");
-  store.Add("extras/Extra2");  // the one image without a key, in second place
+void Extras(const Guardar& guardar) {
+  guardar("extras/Challenger", "Challenger", "");
+  guardar("extras/Extra2", "", "");  // the one image without a key, in second place
   for (const char* key : {"SetaAcima", "SetaAbaixo", "Ficha50", "Ficha10", "Ficha5", "Ficha1"})
-    store.Add(std::string("extras/") + key, key);
+    guardar(std::string("extras/") + key, key, "");
 }
 
+void Faces(const Guardar& guardar) {
+  for (int n = 1; n <= 27; ++n) guardar(PictureFace(n), "", "");
+}
+
+void Barajando(const Guardar& guardar) {
+  for (int n = 1; n <= 3; ++n) guardar("barajando/" + std::to_string(n), "", "");
+}
+
+void Reves(const Guardar& guardar) {
+  for (int n = 1; n <= 20; ++n) guardar(PictureFundo(n), "", "");
+}
+
+void TESTE(const Guardar& guardar) {
+  guardar(PictureFundo(1), "FRENTE", "");
+  guardar(PictureFundo(2), "DORSO", "");
+}
+
+Guardar Em(vb::ImageList& store) {
+  return [&store](std::string picture, std::string key, std::string tag) {
+    store.Add(std::move(picture), std::move(key), std::move(tag));
+  };
+}
+
+}  // namespace
+
+void EncherImageListBarajas(vb::ImageList& store) {
+  Barajas(Em(store));
+}
+void EncherImageListFundos(vb::ImageList& store) {
+  Fundos(Em(store));
+}
+void EncherImageListPotes(vb::ImageList& store) {
+  Potes(Em(store));
+}
+void EncherImageListExtras(vb::ImageList& store) {
+  Extras(Em(store));
+}
 void EncherImageListFACES(vb::ImageList& store) {
-  for (int n = 1; n <= 27; ++n) store.Add(PictureFace(n));
+  Faces(Em(store));
 }
-
 void EncherImageListBarajando(vb::ImageList& store) {
-  for (int n = 1; n <= 3; ++n) store.Add("barajando/" + std::to_string(n));
+  Barajando(Em(store));
 }
-
 void EncherImageListReves(vb::ImageList& store) {
-  for (int n = 1; n <= 20; ++n) store.Add(PictureFundo(n));
+  Reves(Em(store));
+}
+void EncherImageListtESTE(vb::ImageList& store) {
+  TESTE(Em(store));
 }
 
-void EncherImageListtESTE(vb::ImageList& store) {
-  store.Add(PictureFundo(1), "FRENTE");
-  store.Add(PictureFundo(2), "DORSO");
+std::vector<std::string> PicturesDoJogo() {
+  std::vector<std::string> pictures{kPictureBalao, kPictureCreditos};
+  const Guardar anotar = [&pictures](std::string picture, std::string, std::string) {
+    if (std::find(pictures.begin(), pictures.end(), picture) == pictures.end())
+      pictures.push_back(std::move(picture));
+  };
+  for (void (*loja)(const Guardar&) :
+       {Barajas, Fundos, Potes, Extras, Faces, Barajando, Reves, TESTE})
+    loja(anotar);
+  return pictures;
 }

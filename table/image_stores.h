@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/forms.h"
 
@@ -36,3 +37,7 @@ void EncherImageListBarajando(vb::ImageList& store);
 // whose last two images are "FRENTE" and "DORSO" (the first design at the start).
 void EncherImageListReves(vb::ImageList& store);
 void EncherImageListtESTE(vb::ImageList& store);
+
+// Every picture that the stores above hold, the balloon and the credits, each once: what must be at
+// hand before the game starts.
+std::vector<std::string> PicturesDoJogo();

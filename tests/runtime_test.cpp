@@ -93,7 +93,12 @@ TEST(Runtime, MoneyFormat) {
     double in;
     const char* out;
   };
-  for (Case c : {Case{0, "0.00"}, {123.625, "123.63"}, {-1234567.891, "-1,234,567.89"}}) {
+  // Money of any size is written whole: every digit, grouped.
+  for (Case c : {Case{0, "0.00"},
+                 {123.625, "123.63"},
+                 {-1234567.891, "-1,234,567.89"},
+                 {1e20, "100,000,000,000,000,000,000.00"},
+                 {-3e16, "-30,000,000,000,000,000.00"}}) {
     EXPECT_EQ(vb::FormatMoney(c.in), c.out) << c.in;
   }
 }

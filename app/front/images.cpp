@@ -49,14 +49,37 @@ void SetImageFolder(const QString& folder) {
   g_natural.clear();
 }
 
+QString PictureFile(const std::string& id) {
+  return ImageFolder() + QLatin1Char('/') + QString::fromStdString(id) + QStringLiteral(".png");
+}
+
+QString UnreadablePicture(const std::vector<std::string>& ids, qreal ratio) {
+  for (const std::string& id : ids) {
+    // Every drawing there is must read whole: the loader would pass over a damaged one in
+    // silence and draw from another density.
+    const QString base = ImageFolder() + QLatin1Char('/') + QString::fromStdString(id);
+    for (const Density& d : kDensities) {
+      const QString path = base + QLatin1String(d.suffix);
+      if (QFile::exists(path) && QImage(path).isNull()) return path;
+    }
+    if (Picture(id, 1.0, 1.0).isNull() || (ratio != 1.0 && Picture(id, 1.0, ratio).isNull()))
+      return PictureFile(id);
+  }
+  return QString();
+}
+
+QString PictureFaultText(const QString& file) {
+  return QStringLiteral(
+             "Não foi possível ler uma figura do jogo:\n\n%1\n\nAs figuras são procuradas na "
+             "pasta %2\n\nO arquivo falta ou está danificado. Instale o PokerZEVA de novo.")
+      .arg(QDir::toNativeSeparators(file), QDir::toNativeSeparators(ImageFolder()));
+}
+
 QSize PictureSize(const std::string& id) {
   if (id.empty()) return QSize();
   const QString name = QString::fromStdString(id);
   auto it = g_natural.find(name);
-  if (it == g_natural.end())
-    it = g_natural.insert(
-        name,
-        QImageReader(ImageFolder() + QLatin1Char('/') + name + QStringLiteral(".png")).size());
+  if (it == g_natural.end()) it = g_natural.insert(name, QImageReader(PictureFile(id)).size());
   return it->isValid() ? *it : QSize();
 }
 

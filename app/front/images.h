@@ -9,6 +9,7 @@
 #include <QSize>
 #include <QString>
 #include <string>
+#include <vector>
 
 namespace front {
 
@@ -22,5 +23,16 @@ QPixmap Picture(const std::string& id, qreal scale, qreal ratio);
 
 // The natural size of a picture in desktop units (what it covers at scale 1); empty when missing.
 QSize PictureSize(const std::string& id);
+
+// The file of a picture's natural size, whose name the player is told when it cannot be read.
+QString PictureFile(const std::string& id);
+
+// Reads every drawing of every picture of `ids` and makes each at the table's first size, for a
+// screen of `ratio`. Returns the first file that cannot be read (missing, damaged, not a picture),
+// or an empty text.
+QString UnreadablePicture(const std::vector<std::string>& ids, qreal ratio);
+
+// The message of a picture file that cannot be read, with the folder where it was looked for.
+QString PictureFaultText(const QString& file);
 
 }  // namespace front

@@ -11,7 +11,6 @@ namespace artgen {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
 const QColor kOutline(0x2a, 0x22, 0x18);
 
 // ---- extras ------------------------------------------------------------------

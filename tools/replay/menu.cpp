@@ -223,7 +223,8 @@ bool Session::PlayMenu(const std::string& line, int line_number) {
     case Argument::Milliseconds: {
       std::int64_t n = 0;
       const bool count = menu->argument == Argument::Count;
-      if (args.size() != 1 || !ReadCount(args[0], count ? kMostPresses : kMostMilliseconds, n))
+      if (args.size() != 1 || !ReadCount(args[0], count ? kMostPresses : kMostMilliseconds, n) ||
+          (!count && !impl_->host.CanRunFor(n)))
         return refuse();
       if (count) {
         for (std::int64_t i = 0; i < n; ++i)

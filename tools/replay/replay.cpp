@@ -1,5 +1,6 @@
 #include "replay.h"
 
+#include <cerrno>
 #include <charconv>
 #include <deque>
 #include <istream>
@@ -56,39 +57,70 @@ std::string Json(const std::string& text) {
   return s + "\"";
 }
 
+namespace {
+
+// A whole decimal number with nothing around it: digits, with a minus sign in front when
+// `negative` is allowed. Out of the range of the type is not a number either.
+bool Decimal(const std::string& text, bool negative, long long& into) {
+  std::size_t i = negative && !text.empty() && text[0] == '-' ? 1 : 0;
+  if (i == text.size()) return false;
+  for (std::size_t j = i; j < text.size(); ++j)
+    if (text[j] < '0' || text[j] > '9') return false;
+  errno = 0;
+  into = std::strtoll(text.c_str(), nullptr, 10);
+  return errno == 0;
+}
+
+}  // namespace
+
 bool Options::Parse(std::vector<std::string>& args, std::string& error) {
   std::vector<std::string> rest;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& a = args[i];
-    auto number = [&](long long& into) {
+    // The value of an option that takes one, checked against what the game allows.
+    auto value = [&](long long& into, bool (*allowed)(long long), const char* what) {
       if (i + 1 >= args.size()) {
-        error = a + " needs a number";
+        error = a + " needs a number: " + what;
         return false;
       }
-      char* end = nullptr;
-      into = std::strtoll(args[++i].c_str(), &end, 10);
-      if (*end) {
-        error = a + " needs a number";
+      const std::string& text = args[++i];
+      if (!Decimal(text, true, into) || !allowed(into)) {
+        error = a + " " + text + " is not allowed: " + what;
         return false;
       }
       return true;
     };
     long long n = 0;
     if (a == "--seed") {
-      if (!number(n)) return false;
-      seed = static_cast<std::uint64_t>(n);
+      // Any state of the generator: a whole number from 0 to 18446744073709551615.
+      const std::string text = i + 1 < args.size() ? args[++i] : std::string();
+      errno = 0;
+      const unsigned long long state = std::strtoull(text.c_str(), nullptr, 10);
+      if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos || errno != 0) {
+        error = "--seed " + text + " is not allowed: a whole number from 0 to 18446744073709551615";
+        return false;
+      }
+      seed = state;
     } else if (a == "--effects") {
       effects = true;
     } else if (a == "--music") {
       music = true;
     } else if (a == "--cards") {
-      if (!number(n)) return false;
+      if (!value(
+              n, [](long long v) { return v >= 20 && v <= 52 && v % 4 == 0; },
+              "20 to 52 cards, a multiple of 4"))
+        return false;
       cards = static_cast<int>(n);
     } else if (a == "--chips") {
-      if (!number(n)) return false;
+      if (!value(
+              n, [](long long v) { return v == 330 || v == 660 || v == 990; },
+              "330, 660 or 990 chips"))
+        return false;
       chips = static_cast<int>(n);
     } else if (a == "--exchange") {
-      if (!number(n)) return false;
+      if (!value(
+              n, [](long long v) { return v >= 0 && v <= 5; }, "0 to 5 cards"))
+        return false;
       exchange = static_cast<int>(n);
     } else if (a == "--no-limit") {
       no_limit = true;
@@ -275,6 +307,9 @@ vb::Input Make(vb::Input::Type type, const std::string& control, int index = -1)
 
 }  // namespace
 
+// The longest `wait` of a script: a day.
+constexpr long long kLongestWait = 86'400'000;
+
 bool Session::Play(const std::string& raw, int line_number) {
   std::istringstream& words = impl_->words;
   words.clear();
@@ -298,7 +333,8 @@ bool Session::Play(const std::string& raw, int line_number) {
   auto& engine = vb::Engine::Get();
   if (word == "wait") {
     long long ms = -1;
-    if (!(words >> ms) || ms < 0) return refuse();
+    if (!(words >> ms) || ms < 0 || ms > kLongestWait || !impl_->host.CanRunFor(ms))
+      return refuse();
     Run([&] { impl_->host.RunFor(ms); }, word);
     return true;
   }

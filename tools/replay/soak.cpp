@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
+#include <fstream>
 #include <random>
 #include <set>
 #include <sstream>
@@ -299,6 +300,23 @@ class ChipWatch : public vb::Listener {
     rule_here_ = nullptr;
     const int p = kPlayer, k = kPoker;
     const bool chip = action.rfind("chip ", 0) == 0;
+    if (action == "menu nova" || action.rfind("menu nrofichas ", 0) == 0) {
+      // A new game, or a new number of chips in the first hand: the table is cleared and both
+      // stacks are built again from NroFichas, their totals with them. What the screen owed the
+      // totals goes with the old stacks.
+      if (dc == 0 && dp == 0) return;
+      ChipCause& cause = Rule(chip_rule::kNewStacks);
+      ++cause.times;
+      cause.on_screen += dp;
+      cause.in_totals += dc;
+      owed_.clear();
+      const long long drift = Shown() - Counted();
+      if (drift != 0) {
+        r_.unexplained_chips += drift > 0 ? drift : -drift;
+        owed_.push_back({"unexplained", drift});
+      }
+      return;
+    }
     // --- what the screen gained or lost, by rule
     long long screen = dp;
     long long count = dc;
@@ -336,8 +354,21 @@ class ChipWatch : public vb::Listener {
       Made(chip_rule::kNegative, screen);
       screen = 0;
     }
-    if (screen != 0 && (ones_change_[p] || ones_change_[k] || placed_[p] || placed_[k])) {
-      Made(chip_rule::kOnes, screen);
+    if (ones_change_[p] || ones_change_[k] || placed_[p] || placed_[k]) {
+      // Short of ones, MoverFichas shows only the ones the stack had on the table and takes only
+      // the shortage from the stack: the table shows fewer chips than its counter and the stack
+      // more than its total. The two parts are booked apart, as they are taken up apart: the
+      // table's when it is swept, the stack's when it is counted again. They may even cancel out
+      // on the screen.
+      long long table_short = 0;
+      for (int s = 0; s < 2; ++s) {
+        if (!(ones_change_[s] || placed_[s]) || swept_[s]) continue;
+        const long long mesa = s == p ? MesaPote : static_cast<long long>(MesaApostas);
+        const long long moved = table_value_[s] - mesa - table_drift_[s] + unswept_[s];
+        if (moved < 0) table_short += moved;
+      }
+      Made(chip_rule::kOnes, table_short);
+      Made(chip_rule::kOnes, screen - table_short);
       screen = 0;
     }
     // Stakes split between the stack and the table may leave the screen's sum as it was while the
@@ -428,6 +459,29 @@ class ChipWatch : public vb::Listener {
   std::string trace_;
 };
 
+// The options of a game as the replay tool takes them.
+std::string OptionsText(const Options& o) {
+  std::string t = "--seed " + std::to_string(o.seed) + " --cards " + std::to_string(o.cards) +
+                  " --chips " + std::to_string(o.chips) + " --exchange " +
+                  std::to_string(o.exchange);
+  if (o.no_limit) t += " --no-limit";
+  if (o.full_beats_flush) t += " --full-beats-flush";
+  if (o.straight_beats_trips) t += " --straight-beats-trips";
+  if (o.effects) t += " --effects";
+  if (o.music) t += " --music";
+  return t;
+}
+
+// POKERZEVA_SOAK_KEEP=DIR keeps each game that the report flags as a replay script, its options
+// on the first line as the replay tests read them: DIR/game-N.script.
+void Keep(int game, const Options& o, const std::vector<std::string>& lines, const char* why) {
+  const char* dir = std::getenv("POKERZEVA_SOAK_KEEP");
+  if (!dir) return;
+  std::ofstream script(std::string(dir) + "/game-" + std::to_string(game) + ".script");
+  script << "# options: " << OptionsText(o) << "\n# " << why << "\n";
+  for (const std::string& line : lines) script << line << "\n";
+}
+
 }  // namespace
 
 SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
@@ -455,6 +509,9 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
     FaseVar::Observe(RecordFase);
     watch.action = "start";
     s.Start();
+    std::vector<std::string> lines;
+    const long long unexplained_before = r.unexplained_chips;
+    const char* flagged = nullptr;
     int line = 0;
     std::string last = "start";
     int last_fase = 0;
@@ -473,6 +530,11 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
       if (actions.empty()) {
         if (Fase == 10 && FichasPlayer == 0) {
           ++r.dead_ends;
+        } else if (Fase == 30 && FichasPlayer == 0) {
+          // The player has staked all he had and she has nothing to answer in the final round:
+          // with no chips he gets no turn, and no routine comes after hers.
+          ++r.no_turn_final;
+          flagged = "the player without chips at Fase 30: nothing to press";
         } else {
           // The player's turn with nothing of his to press; the example shows the table.
           std::string& example = r.stuck_examples[Fase * 2 + (FichasPlayer == 0 ? 0 : 1)];
@@ -484,20 +546,28 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
           ++r.stuck["nothing to press at Fase " + std::to_string(Fase) +
                     (FichasPlayer == 0 ? ", the player without chips (e.g. " : " (e.g. ") +
                     example + ")"];
+          flagged = "nothing to press";
         }
         break;
       }
-      // Leaving the game is one choice among many, and rarely taken.
-      std::string a = actions[rng() % actions.size()];
-      if (a == "click CmdSair 2" && rng() % 20 != 0) a = actions.back();
+      // Between hands the menu is one choice in twenty, else a new game from it would keep games
+      // from ending; the menu's lines come first in the list. Leaving the game is rarely taken.
+      std::size_t first = 0;
+      while (first < actions.size() && actions[first].rfind("menu ", 0) == 0) ++first;
+      const bool menu = first == actions.size() || (first > 0 && rng() % 20 == 0);
+      std::string a =
+          menu ? actions[rng() % first] : actions[first + rng() % (actions.size() - first)];
+      if ((a == "click CmdSair 2" || a == "menu sair") && rng() % 20 != 0) a = actions.back();
       last = a;
       last_fase = Fase;
       watch.action = a;
+      lines.push_back(a);
       s.Play(a, ++line);
       ++r.actions;
       settle();
       if (s.over()) break;
       watch.action = "wait";
+      lines.push_back("wait 100");
       s.Play("wait 100", ++line);
       settle();
     }
@@ -511,8 +581,11 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
         ++r.hung;
       } else {
         ++r.stuck["hung after '" + last + "' at Fase " + std::to_string(last_fase)];
+        flagged = "hung";
       }
     }
+    if (r.unexplained_chips != unexplained_before) flagged = "chips no rule explains";
+    if (flagged) Keep(g, o, lines, flagged);
     if (s.fault()) {
       ++r.faults[s.fault()];
       std::string where;
@@ -530,6 +603,10 @@ SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game) {
   return r;
 }
 
+bool Unexpected(const SoakReport& r) {
+  return !r.fase_errors.empty() || !r.stuck.empty() || r.unexplained_chips != 0;
+}
+
 std::string Describe(const SoakReport& r) {
   std::ostringstream o;
   o << "games " << r.games << ", hands " << r.hands << ", actions " << r.actions
@@ -538,6 +615,8 @@ std::string Describe(const SoakReport& r) {
   for (auto& [cause, n] : r.fault_causes) o << "  fault " << cause << ": " << n << "\n";
   o << "  dead ends (no chips at Fase 10, nothing to press): " << r.dead_ends << "\n";
   o << "  hung (CmdTudo at Fase 13): " << r.hung << "\n";
+  o << "  no turn in the final round (the player without chips at Fase 30, nothing to press): "
+    << r.no_turn_final << "\n";
   for (auto& [what, n] : r.stuck) o << "  UNEXPECTED " << what << ": " << n << "\n";
   for (auto& [m, n] : r.fase_errors)
     o << "  UNEXPECTED Fase moved " << m << ": " << n << " times\n";

@@ -35,6 +35,7 @@ struct SoakReport {
   std::map<std::string, int> fault_causes;       // each fault, by where it struck
   int dead_ends = 0;                             // the player without chips at Fase 10
   int hung = 0;                                  // CmdTudo at Fase 13
+  int no_turn_final = 0;                         // the player without chips at Fase 30
   std::map<std::string, long long> stuck;        // nothing to press anywhere else: a fault
   std::map<int, std::string> stuck_examples;     // the first table seen in each such state
   std::map<std::string, long long> fase_errors;  // a move of Fase outside the table
@@ -44,6 +45,9 @@ struct SoakReport {
 
 SoakReport RunSoak(int games, std::uint64_t seed, int max_actions_per_game = 4000);
 std::string Describe(const SoakReport& report);
+// Whether the report holds anything the rules do not explain: a move of Fase outside its table,
+// a game stuck or hung where no rule says so, a change of the chips with no rule behind it.
+bool Unexpected(const SoakReport& report);
 
 // The names of the chip rules, as the report gives them.
 namespace chip_rule {
@@ -60,6 +64,8 @@ inline constexpr const char* kMintShown = "TrocarFichas minting (shown in the st
 inline constexpr const char* kMintAnte = "TrocarFichas minting at the ante (count only, not shown)";
 inline constexpr const char* kFull =
     "MontarFichas drops what a full stack (30 of each, 1980 chips) cannot hold";
+inline constexpr const char* kNewStacks =
+    "a new game or a new number of chips from the menu builds both stacks again";
 inline constexpr const char* kCap =
     "the opponent's stack loses chips over 1810 (PilhaDeFichas cap)";
 }  // namespace chip_rule

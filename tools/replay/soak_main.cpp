@@ -1,6 +1,9 @@
 // pokerzeva-soak [GAMES] [SEED]: a long run of the random player, with its figures. Exits 1 when
-// Fase left its table or a change of the chips had no rule behind it.
-// POKERZEVA_SOAK_DEBUG=1 prints each unexplained change of the chips with what the screen did.
+// Fase left its table, a game stopped where no rule stops it, or a change of the chips had no rule
+// behind it.
+// POKERZEVA_SOAK_DEBUG=1 prints each unexplained change of the chips with what the screen did;
+// POKERZEVA_SOAK_KEEP=DIR keeps every game so flagged as a replay script, DIR/game-N.script, whose
+// first line gives its options ("# options: --seed ...").
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
@@ -16,5 +19,5 @@ int main(int argc, char** argv) {
       std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   std::cout << replay::Describe(r) << "wall time " << secs << " s, " << r.hands / secs
             << " hands a second\n";
-  return r.fase_errors.empty() && r.unexplained_chips == 0 ? 0 : 1;
+  return replay::Unexpected(r) ? 1 : 0;
 }

@@ -10,8 +10,6 @@ namespace soundgen {
 
 namespace {
 
-const Place kCentre{0.0, 0.0, 1.0};
-
 // Adds sample(u) from time t on, for the given seconds.
 template <typename F>
 void addAt(Mix& mix, double t, double seconds, F&& sample) {
