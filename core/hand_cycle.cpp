@@ -32,14 +32,9 @@ void ConstruirPilhas(bool Poker) {
   if ((Poker ? FichasPoker : FichasPlayer) > 0) TrocarFichas(Poker, true);
 }
 
-void Form_Initialize() {
-  auto& f = Frm_Principal();
-  if (!Iniciado) ValoresIniciais();
-  EncherBaralho();
-  NroMao = 1;
-  f.CmdConfrontar.Caption = "&Confrontar";
-  f.CmdMaisUma.Caption = "&Mais UMA";
-  f.CmdSair(2).Caption = "&EMBORA...";
+// The table swept, the counts of chips at zero, and both stacks built again from NroFichas: the
+// chips of a new game.
+void RefazerFichas() {
   MontarFichas(true, true);
   MesaPingo = 0;
   FichasPlayer = 0;
@@ -49,6 +44,17 @@ void Form_Initialize() {
   ConstruirPilhas(true);
   ConstruirPilhas(false);
   AtualizarLabels();
+}
+
+void Form_Initialize() {
+  auto& f = Frm_Principal();
+  if (!Iniciado) ValoresIniciais();
+  EncherBaralho();
+  NroMao = 1;
+  f.CmdConfrontar.Caption = "&Confrontar";
+  f.CmdMaisUma.Caption = "&Mais UMA";
+  f.CmdSair(2).Caption = "&EMBORA...";
+  RefazerFichas();
   AjustarTela();
   OcultarMoedas();
   NovaMao();

@@ -7,6 +7,8 @@
 
 void Form_Initialize();
 void ConstruirPilhas(bool Poker);
+// Both stacks as a new game has them: the table swept, the counts zeroed, the piles built again.
+void RefazerFichas();
 void Form_Unload(int& Cancel);
 void NovaMao();
 void CobrarPingo();

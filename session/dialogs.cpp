@@ -11,32 +11,46 @@
 
 namespace {
 
-// Every dialog is a small window of the same make: a frame round the value, and under it the
-// button that steps it. Twips.
+// Every dialog is a small window of the same make. A counting dialog: the number in a frame, the
+// ranks or the chips it makes in a second frame beside it when the dialog has one, and under them
+// the button that steps it. Twips.
 constexpr int kLargura = 5400;
-constexpr int kAltura = 2550;
 
-void Desenhar(vb::Form& form, vb::Control& frame1, vb::Control& label1) {
-  form.Move(0, 0, kLargura, kAltura);
-  frame1.Move(240, 180, 1680, 1050);
-  label1.Move(60, 150, 1560, 780);
-  label1.font.size = 24;
-  label1.font.bold = true;
+template <class F>
+void Contagem(F& f, const char* caption) {
+  f.Caption = caption;
+  f.Move(0, 0, kLargura, 2550);
+  f.Frame1.Move(240, 180, 1680, 1050);
+  f.Label1.Move(60, 150, 1560, 780);
+  f.Label1.font.size = 24;
+  f.Label1.font.bold = true;
+  if constexpr (requires { f.Label2; }) {
+    f.Frame2.Move(2100, 180, 3060, 1050);
+    f.Label2.Move(90, 150, 2880, 780);
+    f.Label2.font.size = 10;
+  } else {
+    f.Frame1.SetLeft((kLargura - f.Frame1.Width) / 2 - 60);
+  }
+  f.Command1.Move(1680, 1440, 1800, 420);
+  f.Command1.Caption = "&M u d a r";
+  f.Command1.TabIndex = 0;
+  f.Activate = [&f] { f.Form_Activate(); };
+  f.Command1.Click = [&f] { f.Command1_Click(); };
+  f.Unload = [&f](int&) { f.Form_Unload(); };
 }
 
-void Botao(vb::Control& command1, int top) {
-  command1.Move(1680, top, 1800, 420);
-  command1.Caption = "&M u d a r";
-  command1.TabIndex = 0;
-}
-
-void DesenharTexto(vb::Form& form, vb::Control& frame1, vb::Control& text1, const char* nome) {
-  text1.accessible.name = nome;
-  form.Move(0, 0, kLargura, 1500);
-  frame1.Move(240, 180, 4680, 705);
-  text1.Move(120, 180, 4440, 405);
-  text1.font.size = 12;
-  text1.TabIndex = 0;
+// A dialog that asks for a text: the box in a frame, named for the player's reader.
+template <class F>
+void Texto(F& f, const char* caption, const char* nome) {
+  f.Caption = caption;
+  f.Move(0, 0, kLargura, 1500);
+  f.Frame1.Move(240, 180, 4680, 705);
+  f.Text1.Move(120, 180, 4440, 405);
+  f.Text1.font.size = 12;
+  f.Text1.TabIndex = 0;
+  f.Text1.accessible.name = nome;
+  f.Activate = [&f] { f.Form_Activate(); };
+  f.Unload = [&f](int&) { f.Form_Unload(); };
 }
 
 // The ranks of a full deck as Label2 names them; a stripped deck drops the lowest, four cards a
@@ -69,15 +83,7 @@ bool NumeroSimples(std::string_view s) {
 // --- the deck size ------------------------------------------------------------------------------
 
 FrmNumerodeCartas::FrmNumerodeCartas() : vb::Form("FrmNumerodeCartas") {
-  Caption = "   Numero de Cartas do Baralho";
-  Desenhar(*this, Frame1, Label1);
-  Frame2.Move(2100, 180, 3060, 1050);
-  Label2.Move(90, 150, 2880, 780);
-  Label2.font.size = 10;
-  Botao(Command1, 1440);
-  Activate = [this] { Form_Activate(); };
-  Command1.Click = [this] { Command1_Click(); };
-  Unload = [this](int&) { Form_Unload(); };
+  Contagem(*this, "   Numero de Cartas do Baralho");
 }
 
 void FrmNumerodeCartas::Mostrar() {
@@ -105,15 +111,7 @@ void FrmNumerodeCartas::Form_Unload() {
 // --- the chips each side starts with -------------------------------------------------------------
 
 FrmNumerodeFichas::FrmNumerodeFichas() : vb::Form("FrmNumerodeFichas") {
-  Caption = "   Numero de Fichas para cada Jogador";
-  Desenhar(*this, Frame1, Label1);
-  Frame2.Move(2100, 180, 3060, 1050);
-  Label2.Move(90, 150, 2880, 780);
-  Label2.font.size = 10;
-  Botao(Command1, 1440);
-  Activate = [this] { Form_Activate(); };
-  Command1.Click = [this] { Command1_Click(); };
-  Unload = [this](int&) { Form_Unload(); };
+  Contagem(*this, "   Numero de Fichas para cada Jogador");
 }
 
 void FrmNumerodeFichas::Mostrar() {
@@ -140,13 +138,7 @@ void FrmNumerodeFichas::Form_Unload() {
 // --- how many cards may be exchanged -------------------------------------------------------------
 
 FrmQuantasCartas::FrmQuantasCartas() : vb::Form("FrmQuantasCartas") {
-  Caption = "  Quantas Cartas pode Trocar do Baralho ?";
-  Desenhar(*this, Frame1, Label1);
-  Frame1.SetLeft((kLargura - Frame1.Width) / 2 - 60);
-  Botao(Command1, 1440);
-  Activate = [this] { Form_Activate(); };
-  Command1.Click = [this] { Command1_Click(); };
-  Unload = [this](int&) { Form_Unload(); };
+  Contagem(*this, "  Quantas Cartas pode Trocar do Baralho ?");
 }
 
 void FrmQuantasCartas::Form_Activate() {
@@ -192,10 +184,7 @@ float LerValorFicha(const std::string& texto) {
 }
 
 FrmValordaFicha::FrmValordaFicha() : vb::Form("FrmValordaFicha") {
-  Caption = "  Valor da Ficha ? (em Reais)";
-  DesenharTexto(*this, Frame1, Text1, "Valor da ficha, em reais");
-  Activate = [this] { Form_Activate(); };
-  Unload = [this](int&) { Form_Unload(); };
+  Texto(*this, "  Valor da Ficha ? (em Reais)", "Valor da ficha, em reais");
 }
 
 void FrmValordaFicha::Form_Activate() {
@@ -211,10 +200,7 @@ void FrmValordaFicha::Form_Unload() {
 // --- the player's name ---------------------------------------------------------------------------
 
 frmMeuNome::frmMeuNome() : vb::Form("frmMeuNome") {
-  Caption = "   Meu NOME e ?";
-  DesenharTexto(*this, Frame1, Text1, "Seu nome");
-  Activate = [this] { Form_Activate(); };
-  Unload = [this](int&) { Form_Unload(); };
+  Texto(*this, "   Meu NOME e ?", "Seu nome");
 }
 
 void frmMeuNome::Form_Activate() {

@@ -17,19 +17,6 @@ bool Inverter(vb::Control& entry) {
   return entry.Checked;
 }
 
-// Both stacks swept and built again from NroFichas, as a new game has them.
-void RefazerFichas() {
-  MontarFichas(true, true);
-  MesaPingo = 0;
-  FichasPlayer = 0;
-  FichasPoker = 0;
-  MesaApostas = 0;
-  MesaPote = 0;
-  ConstruirPilhas(true);
-  ConstruirPilhas(false);
-  AtualizarLabels();
-}
-
 void Mostrar(vb::Form& dialogo) {
   vb::Engine::Get().Show(dialogo, true);
 }
