@@ -8,6 +8,8 @@
 #include <QImageReader>
 #include <cmath>
 
+#include "platform/picture_files.h"
+
 namespace front {
 namespace {
 
@@ -53,18 +55,14 @@ QString PictureFile(const std::string& id) {
   return ImageFolder() + QLatin1Char('/') + QString::fromStdString(id) + QStringLiteral(".png");
 }
 
-QString UnreadablePicture(const std::vector<std::string>& ids, qreal ratio) {
-  for (const std::string& id : ids) {
-    // Every drawing there is must read whole: the loader would pass over a damaged one in
-    // silence and draw from another density.
-    const QString base = ImageFolder() + QLatin1Char('/') + QString::fromStdString(id);
-    for (const Density& d : kDensities) {
-      const QString path = base + QLatin1String(d.suffix);
-      if (QFile::exists(path) && QImage(path).isNull()) return path;
-    }
-    if (Picture(id, 1.0, 1.0).isNull() || (ratio != 1.0 && Picture(id, 1.0, ratio).isNull()))
-      return PictureFile(id);
-  }
+QString UnreadablePicture(const std::vector<std::string>& ids) {
+  // The same check as the headless tool's: the plain drawing and every denser one there is must
+  // be whole (a damaged one would be passed over in silence), read by its chunks and checksums
+  // rather than drawn, so that the start stays quick.
+  const std::string folder = ImageFolder().toStdString();
+  for (const std::string& id : ids)
+    for (const std::string& file : vb::PictureFiles(folder, id))
+      if (!vb::PictureFault(file).empty()) return QString::fromStdString(file);
   return QString();
 }
 

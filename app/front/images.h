@@ -27,10 +27,10 @@ QSize PictureSize(const std::string& id);
 // The file of a picture's natural size, whose name the player is told when it cannot be read.
 QString PictureFile(const std::string& id);
 
-// Reads every drawing of every picture of `ids` and makes each at the table's first size, for a
-// screen of `ratio`. Returns the first file that cannot be read (missing, damaged, not a picture),
-// or an empty text.
-QString UnreadablePicture(const std::vector<std::string>& ids, qreal ratio);
+// Checks every drawing of every picture of `ids`: the plain one (which gives the picture its size)
+// must be there, and each drawing there is must be whole. Returns the first file that cannot be
+// read (missing, damaged, not a picture), or an empty text.
+QString UnreadablePicture(const std::vector<std::string>& ids);
 
 // The message of a picture file that cannot be read, with the folder where it was looked for.
 QString PictureFaultText(const QString& file);

@@ -3,9 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <QGuiApplication>
 #include <QMessageBox>
-#include <QScreen>
 #include <QSocketNotifier>
 #include <csignal>
 #include <cstdio>
@@ -19,9 +17,7 @@
 namespace front {
 
 bool PicturesAtHand() {
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  const QString file =
-      UnreadablePicture(PicturesDoJogo(), screen ? screen->devicePixelRatio() : 1.0);
+  const QString file = UnreadablePicture(PicturesDoJogo());
   if (file.isEmpty()) return true;
   const QString text = PictureFaultText(file);
   std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
